@@ -1,0 +1,49 @@
+#pragma once
+
+#include "ShortcutTransformation.h"
+#include "XmlError.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+class QIODevice;
+
+namespace CUI {
+
+/// Codec of the hotkey set file (suffix hsx): the steps that turn the base configuration into a
+/// user's set.
+namespace HotkeySetFile {
+
+struct Content {
+    std::vector<ShortcutTransformation> steps; ///< in file order, also those before an error
+    std::optional<XmlError> error;
+};
+
+/// What the root's start tag says about the set.
+struct Metadata {
+    QString description;
+    bool locked = false;
+};
+
+/// What write() puts on the root.
+enum class LockAttribute { Omit, WriteUnlocked };
+
+/// Reads from the open @p device. Steps without hotkey or without action name are left out, and
+/// elements of other names skipped.
+Content read(QIODevice &device);
+
+/// Reads no further than the root's start tag; nothing when the document has none or another root.
+std::optional<Metadata> readMetadata(QIODevice &device);
+
+/// Writes to the open @p device. False when the device failed or a step holds a character that XML
+/// does not allow (see firstUnwritable()).
+bool write(QIODevice &device, const std::vector<ShortcutTransformation> &steps,
+           LockAttribute lockAttribute);
+
+/// The first step whose identifier or hotkey holds a character that XML does not allow, or null.
+const ShortcutTransformation *firstUnwritable(const std::vector<ShortcutTransformation> &steps);
+
+} // namespace HotkeySetFile
+} // namespace CUI

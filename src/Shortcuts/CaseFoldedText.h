@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <cstddef>
+
+namespace CUI {
+
+/// A text as the key of a hash map that ignores letter case in exactly the way that
+/// QString::compare(Qt::CaseInsensitive) does. QString::toCaseFolded() would not do: it folds some
+/// letters to several, so that texts meet which the comparison tells apart.
+struct CaseFoldedText {
+    QString text;
+};
+
+inline bool operator==(const CaseFoldedText &a, const CaseFoldedText &b)
+{
+    return a.text.size() == b.text.size()
+            && a.text.compare(b.text, Qt::CaseInsensitive) == 0;
+}
+
+struct CaseFoldedTextHash {
+    std::size_t operator()(const CaseFoldedText &key) const noexcept;
+};
+
+} // namespace CUI

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QString>
+
+namespace CUI {
+
+/// Conversions between hotkey texts and the accelerators of the Windows accelerator table. The
+/// static members of QvelShortcutManager of the same names forward here and document them.
+namespace KeyNames {
+
+bool keySequenceToVirtualKey(const QString &shortcut, int &virtualKey, int &fVirt);
+QString virtualKeyToStr(int virtualKey, int fVirt);
+int keyToOEM(int key);
+int oemToKey(int virtualKey);
+QString getNumPadKeyName(QKeySequence::SequenceFormat format);
+
+} // namespace KeyNames
+} // namespace CUI

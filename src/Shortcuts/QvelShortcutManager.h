@@ -1,0 +1,249 @@
+#pragma once
+
+#include "ActionIdentifier.h"
+#include "QShortcutsList.h"
+#include "ShortcutTransformation.h"
+#include "UiCustomizationsExport.h"
+
+#include <QKeySequence>
+#include <QObject>
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace CUI {
+
+class ShortcutOwnerIndex;
+class TransformationCollapser;
+
+/// Knows which hotkeys each action has: those of the base configuration, those in effect, and the
+/// recorded steps (transformations) that lead from the one to the other.
+///
+/// The host creates it and hands it to models and widgets. It asks the installed ICuiActionManager
+/// which actions exist and the installed IPathManager where files are; it works without either,
+/// skipping what needs them. User-interface thread only; every signal is emitted directly, after
+/// the state has changed. Nothing throws: problems are written to the QvelMessageLog.
+///
+/// A hotkey is the portable text of one key combination (Ctrl+Shift+Z, Num+5). Within one action
+/// context it belongs to one action only, letter case ignored: assigning it to another takes it
+/// from the first. Actions of different contexts may share it.
+class CUI_EXPORT QvelShortcutManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// An empty store.
+    explicit QvelShortcutManager(QObject *parent = nullptr);
+    ~QvelShortcutManager() override;
+
+    /// \name Queries
+    /// They answer unknown actions with an empty text, the empty identifier or false.
+    /// @{
+
+    /// The hotkeys in effect. Only actions that hold at least one have an entry.
+    const std::unordered_map<ActionIdentifier, QShortcutsList> &getShortcuts() const;
+    /// The recorded steps, oldest first. The reference is valid until the next edit.
+    const std::vector<ShortcutTransformation> &currentTransformations() const;
+    /// The action's hotkeys in effect, joined with ", "; null when it has none.
+    QString getShortcutsFromActionId(const ActionIdentifier &identifier) const;
+    /// The action's hotkeys of the base configuration, likewise.
+    QString getBaseShortcutsFromActionId(const ActionIdentifier &identifier) const;
+    /// The action of that context that holds @p shortcut, letter case ignored; the empty identifier
+    /// when there is none. Actions that the registry does not know are never found. When several
+    /// hold it, the one that has held it longest is returned. Costs no more in a large store.
+    ActionIdentifier getActionIdFromShortcut(const QString &shortcut,
+                                             unsigned long contextId) const;
+    /// True while unsaved edits remain after cancelling opposite ones.
+    bool isUserModified() const;
+    /// True when an unsaved edit concerns the action.
+    bool isUserModifiedAction(const ActionIdentifier &identifier);
+    /// True when an unsaved edit concerns exactly that hotkey of the action; letter case counts.
+    bool isUserModifiedShortcut(const ActionIdentifier &identifier, const QString &shortcut);
+    /// @}
+
+    /// \name Edits
+    /// @{
+
+    /// Gives @p shortcut to the action as a user's edit and records the step. Does nothing, silently,
+    /// when the text is empty or the action already holds six hotkeys. @p description is the
+    /// action's display text, kept in the step.
+    ///
+    /// Emits, in this order: shortcutUnassigned() for an action of the same context that loses the
+    /// hotkey, shortcutAssigned(), shortcutTransformsCollapsed(), a change of the modified state,
+    /// shortcutTransformAdded(). An action that the registry does not know is logged as a warning
+    /// and assigned nothing; the step is recorded, and its signals emitted, all the same.
+    void assignShortcut(const ActionIdentifier &identifier, const QString &shortcut,
+                        const QString &description);
+
+    /// Takes @p shortcut (compared exactly) from the action as a user's edit and records the step,
+    /// whether or not the action holds it. Does nothing when the text is empty.
+    ///
+    /// Emits, in this order: shortcutUnassigned() when the action holds any hotkey,
+    /// shortcutTransformsCollapsed(), a change of the modified state, shortcutTransformAdded().
+    void unassignShortcut(const ActionIdentifier &identifier, const QString &shortcut,
+                          const QString &description);
+
+    /// Makes the current hotkeys the base and forgets the steps. Emits what clearTransforms() does.
+    void applyTransforms();
+
+    /// Drops the steps and returns to the base hotkeys. Emits shortcutsUnModified() if there were
+    /// unsaved edits, then shortcutTransformsCleared(). Without steps it does nothing at all.
+    void clearTransforms();
+
+    /// Cancels opposite steps among those from index @p start on: an assignment and a later removal
+    /// of the same hotkey of the same action, or the reverse, and repetitions in between. Emits
+    /// shortcutTransformsCollapsed() in any case. A start beyond the end changes nothing.
+    void collapseTransforms(std::size_t start);
+
+    /// Empties the store. Emits shortcutsUnModified() if there were unsaved edits, then
+    /// shortcutsCleared(). When no action has a hotkey, it does nothing at all.
+    void clearShortcuts();
+    /// @}
+
+    /// \name Files
+    /// Paths are local file paths; an empty one makes each operation do nothing and return false.
+    /// Files are written as a whole or not at all: when writing fails, the old file stays.
+    /// @{
+
+    /// Writes the base hotkeys as a base hotkey file, ordered by action. When the file cannot be
+    /// written, the old one stays and nothing is said, except of a hotkey that XML cannot hold,
+    /// which is logged as an error. A result that does not follow the schema is reported on the
+    /// process's debug output.
+    void saveShortcuts(const QString &path) const;
+
+    /// Replaces the store's contents by a base hotkey file. Returns true when all of it was read.
+    /// A file that does not follow its schema is logged as an error and leaves the store as it is;
+    /// what stands before an error inside a file is kept. Emits what clearShortcuts() does, then
+    /// shortcutAssigned() for each hotkey.
+    bool loadShortcuts(const QString &path);
+
+    /// Writes the recorded steps as a hotkey set file and makes them the unmodified state. The
+    /// steps are cancelled first, even when the file can then not be written. Emits
+    /// shortcutTransformsCollapsed(), then shortcutsUnModified() if there were unsaved edits.
+    /// Returns false, with the old file untouched, when it cannot be written.
+    bool saveShortcutTransforms(const QString &path);
+
+    /// Replaces the recorded steps by those of a hotkey set file and applies them, as unmodified
+    /// state. Returns true when all of it was read. A file that does not follow its schema is logged
+    /// as an error and changes nothing; steps before an error inside a file are kept. An assignment
+    /// to an action that already holds six hotkeys is dropped.
+    ///
+    /// Emits what clearTransforms() does, then for each step shortcutUnassigned() and
+    /// shortcutAssigned() as an edit would, and shortcutTransformAdded().
+    bool loadShortcutTransforms(const QString &path);
+
+    /// Reads what a hotkey set file says about itself. False when it cannot be opened or does not
+    /// follow its schema (logged as an error); @p locked and @p name are then unchanged. A set
+    /// without description is named by its file name without the last suffix.
+    static bool peekPresetMetadata(const QString &path, bool &locked, QString &name);
+
+    /// Builds the whole configuration: the host's base files in their order, the registry's default
+    /// accelerators, and the hotkey set @p path (may be empty) on top; tells the path manager that
+    /// @p path is the current set. A base file of suffix hsxb replaces what came before it, one of
+    /// suffix hsx is added to it; others are ignored, and so are files that fail.
+    ///
+    /// Emits shortcutConfigurationAboutToLoad(), the signals of each of these steps, and
+    /// shortcutConfigurationLoaded().
+    void loadShortcutConfiguration(const QString &path);
+
+    /// loadShortcutConfiguration() with the hotkey set that the path manager names as current.
+    void loadCurrentShortcutConfiguration();
+    /// @}
+
+    /// \name Validation
+    /// @{
+
+    /// True when @p file follows the XML schema @p schemaFile. A file that does not is logged as an
+    /// error with its place; one that cannot be opened is not. No file makes the check read another
+    /// one or open a connection; document types, nesting beyond 100 levels, more than 64 MiB and
+    /// the like are refused.
+    static bool validateXml(const QString &file, const QString &schemaFile);
+    /// validateXml() of a base hotkey file with HotkeyMappingSchema.xsd beside the executable.
+    static bool validateShortcuts(const QString &path);
+    /// validateXml() of a hotkey set file with HotkeyTransformationSchema.xsd beside the executable.
+    static bool validateShortcutsTransforms(const QString &path);
+    /// validateXml() of a legacy keyboard file with LegacyKbdxSchema.xsd beside the executable.
+    static bool validateLegacyKbdx(const QString &path);
+    /// @}
+
+    /// \name Key names
+    /// @{
+
+    /// Converts the first key combination of @p shortcut to an accelerator of the Windows
+    /// accelerator table. @p fVirt gets the sum of 1 (virtual key), 2 (always), 4 (Shift),
+    /// 8 (Ctrl) and 16 (Alt); Meta is ignored. False for an empty text (fVirt 2, virtualKey 0) and
+    /// for a key that has no virtual key (F1 among them).
+    static bool keySequenceToVirtualKey(const QString &shortcut, int &virtualKey, int &fVirt);
+    /// The hotkey text of an accelerator. A code that is no known virtual key, or that @p fVirt
+    /// does not mark as one, is taken as a character.
+    static QString virtualKeyToStr(int virtualKey, int fVirt);
+    /// The virtual key of a punctuation character of the US layout or of the section sign; 0 for
+    /// others.
+    static int keyToOEM(int key);
+    /// The punctuation character of a virtual key; 0 for others.
+    static int oemToKey(int virtualKey);
+    /// The name of the keypad qualifier, as it stands before the first "+" of a hotkey text.
+    static const QString getNumPadKeyName(QKeySequence::SequenceFormat format);
+    /// @}
+
+Q_SIGNALS:
+    /// A hotkey was given to an action, in an edit or while loading; also when the action held it
+    /// already.
+    void shortcutAssigned(const CUI::ActionIdentifier &identifier, const QString &shortcut);
+    /// A hotkey was taken from an action that held any; also when it was not the one.
+    void shortcutUnassigned(const CUI::ActionIdentifier &identifier, const QString &shortcut);
+    /// A step was recorded, in an edit or while loading a hotkey set. The last signal of an edit.
+    void shortcutTransformAdded(const CUI::ShortcutTransformation &transformation);
+    /// The steps were dropped; listeners read the store anew. Not emitted when there were none.
+    void shortcutTransformsCleared();
+    /// The steps have been cancelled against each other; emitted even when none was.
+    void shortcutTransformsCollapsed();
+    /// The store was emptied. Not emitted when it was empty.
+    void shortcutsCleared();
+    /// The first unsaved edit was made. Never emitted twice in a row.
+    void shortcutsModified();
+    /// No unsaved edit is left. Never emitted twice in a row.
+    void shortcutsUnModified();
+    /// A configuration is about to be loaded; the store still holds the old one.
+    void shortcutConfigurationAboutToLoad(const QString &path);
+    /// The configuration has been loaded, as far as its files could be read.
+    void shortcutConfigurationLoaded(const QString &path);
+
+private:
+    using ShortcutMap = std::unordered_map<ActionIdentifier, QShortcutsList>;
+
+    bool assignShortcutInternal(const ActionIdentifier &identifier, const QString &shortcut,
+                                bool userModification, bool checkRoom);
+    void unassignShortcutInternal(const ActionIdentifier &identifier, const QString &shortcut,
+                                  bool userModification);
+    ActionIdentifier findConflict(const ActionIdentifier &identifier, const QString &shortcut,
+                                  unsigned long contextId) const;
+    bool hasRoomForShortcuts(const ActionIdentifier &identifier) const;
+    std::size_t transformationCount() const;
+    void resetTransformations();
+    void setUserModTransformIndex(int index);
+    void clampUserModTransformIndex();
+    void checkModifiedAndEmit();
+    void replaceCurrentByBase();
+
+    void applyLoadedStep(const ShortcutTransformation &step);
+    void loadBaseFiles();
+    void assignDefaultAccelerators();
+
+    std::uint64_t userModTransformIndex = 0;
+    bool modified = false;
+    ShortcutMap currentShortcuts;
+    ShortcutMap baseShortcuts;
+    // Cancelled steps stay in the list until somebody looks at it: removing one at once would cost
+    // an edit the moving of all later steps.
+    mutable std::vector<ShortcutTransformation> transformations;
+
+    std::unique_ptr<ShortcutOwnerIndex> ownerIndex;
+    std::unique_ptr<TransformationCollapser> collapser;
+};
+
+} // namespace CUI

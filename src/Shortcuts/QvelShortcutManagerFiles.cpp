@@ -1,0 +1,307 @@
+#include "QvelShortcutManager.h"
+
+#include "BaseHotkeyFile.h"
+#include "HotkeySetFile.h"
+#include "ICuiActionManager.h"
+#include "IPathManager.h"
+#include "LazyLog.h"
+#include "SchemaCheck.h"
+#include "XmlError.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <utility>
+
+namespace CUI {
+
+namespace {
+
+bool hasPlaceholder(const QString &text)
+{
+    static const QRegularExpression placeholder(QStringLiteral("%L?[0-9]{1,2}"));
+    return text.contains(placeholder);
+}
+
+// Existing log readers know these lines as they are: the template starts at %2, so that each value
+// lands one place later than its label says, and the last one finds none.
+QString readingFailed(QString text, const QString &path, const XmlError &error)
+{
+    for (const QString &value : {path, error.text, QString::number(error.line),
+                                 QString::number(error.column), QString::number(error.offset)}) {
+        if (hasPlaceholder(text))
+            text = text.arg(value);
+    }
+    return text;
+}
+
+void logReadingFailed(const QString &text, const QString &path, const XmlError &error)
+{
+    logLazily(QvelMessageLog::Error, [&] { return readingFailed(text, path, error); });
+}
+
+void logUnwritable(const QString &path, const QString &shortcut, const ActionIdentifier &actionId)
+{
+    logLazily(QvelMessageLog::Error, [&] {
+        return QStringLiteral("'%1' was not written: hotkey '%2' of action '%3' holds a character "
+                              "that an XML file cannot hold.")
+                .arg(path, shortcut, actionId.toString());
+    });
+}
+
+QString schemaPath(QLatin1String fileName)
+{
+    return QCoreApplication::applicationDirPath() + QLatin1Char('/') + fileName;
+}
+
+// The base hotkeys as the file holds them: ordered, so that two versions compare line by line.
+std::vector<BaseHotkeyFile::Entry>
+fileEntries(const std::unordered_map<ActionIdentifier, QShortcutsList> &shortcuts)
+{
+    const ICuiActionManager *registry = ICuiActionManager::get();
+    std::vector<BaseHotkeyFile::Entry> entries;
+    entries.reserve(shortcuts.size());
+    for (const auto &[actionId, list] : shortcuts) {
+        const VelAction *action = registry != nullptr ? registry->getAction(actionId) : nullptr;
+        // An action without a name still has its description written, as an empty text.
+        const QString description =
+                action != nullptr ? QLatin1String("") + action->name() : QString();
+        entries.push_back({actionId, list, description});
+    }
+    std::sort(entries.begin(), entries.end(),
+              [](const BaseHotkeyFile::Entry &a, const BaseHotkeyFile::Entry &b) {
+                  return a.actionId < b.actionId;
+              });
+    return entries;
+}
+
+} // namespace
+
+// Base hotkey files
+
+void QvelShortcutManager::saveShortcuts(const QString &path) const
+{
+    if (path.isEmpty())
+        return;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return;
+    const auto entries = fileEntries(baseShortcuts);
+    if (const BaseHotkeyFile::Entry *entry = BaseHotkeyFile::firstUnwritable(entries)) {
+        logUnwritable(path, entry->shortcuts.join(QLatin1String(", ")), entry->actionId);
+        return;
+    }
+    if (!BaseHotkeyFile::write(file, entries) || !file.commit())
+        return;
+    if (!validateShortcuts(path))
+        qDebug("Generated shortcuts file doesn't conform to the schema defined in "
+               "HotkeyMappingSchema.xsd.");
+}
+
+bool QvelShortcutManager::loadShortcuts(const QString &path)
+{
+    if (path.isEmpty())
+        return false;
+    logLazily(QvelMessageLog::Info, [&] {
+        return QStringLiteral("Loading hotkey configuration file '%1'.").arg(path);
+    });
+    if (!validateShortcuts(path))
+        return false;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return false;
+
+    clearShortcuts();
+    const BaseHotkeyFile::Content content = BaseHotkeyFile::read(file);
+    for (const BaseHotkeyFile::Entry &entry : content.entries) {
+        for (const QString &shortcut : entry.shortcuts)
+            assignShortcutInternal(entry.actionId, shortcut, false, true);
+    }
+    if (content.error) {
+        logReadingFailed(QStringLiteral("Loading of hotkey configuration file failed!\n%2 "
+                                        "Line: %3 Column: %4 Offset: %5"),
+                         path, *content.error);
+        return false;
+    }
+    logLazily(QvelMessageLog::Info,
+              [] { return QStringLiteral("Hotkey configuration file loaded successfully."); });
+    return true;
+}
+
+// Hotkey set files
+
+bool QvelShortcutManager::saveShortcutTransforms(const QString &path)
+{
+    if (path.isEmpty())
+        return false;
+    collapseTransforms(0);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return false;
+    const std::vector<ShortcutTransformation> &steps = currentTransformations();
+    if (const ShortcutTransformation *step = HotkeySetFile::firstUnwritable(steps)) {
+        logUnwritable(path, step->shortcut(), step->actionId());
+        return false;
+    }
+    if (!HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::WriteUnlocked)
+        || !file.commit())
+        return false;
+    setUserModTransformIndex(static_cast<int>(transformationCount()));
+    if (!validateShortcutsTransforms(path))
+        qDebug("Generated transformation file doesn't conform to the schema defined in "
+               "HotkeyTransformationSchema.xsd.");
+    return true;
+}
+
+bool QvelShortcutManager::loadShortcutTransforms(const QString &path)
+{
+    if (path.isEmpty())
+        return false;
+    logLazily(QvelMessageLog::Info, [&] {
+        return QStringLiteral("Loading shortcut transform file '%1'.").arg(path);
+    });
+    if (!validateShortcutsTransforms(path))
+        return false;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return false;
+
+    clearTransforms();
+    const HotkeySetFile::Content content = HotkeySetFile::read(file);
+    for (const ShortcutTransformation &step : content.steps)
+        applyLoadedStep(step);
+    if (content.error) {
+        logReadingFailed(QStringLiteral("Loading of transform file failed!\n%2 Line: %3 "
+                                        "Column: %4 Offset: %5"),
+                         path, *content.error);
+        return false;
+    }
+    logLazily(QvelMessageLog::Info,
+              [] { return QStringLiteral("Transform file loaded successfully."); });
+    return true;
+}
+
+void QvelShortcutManager::applyLoadedStep(const ShortcutTransformation &step)
+{
+    const bool assigns = step.kind() == ShortcutTransformation::Assign;
+    const ActionIdentifier actionId = step.actionId();
+    if (assigns && !hasRoomForShortcuts(actionId))
+        return;
+    transformations.push_back(step);
+    setUserModTransformIndex(static_cast<int>(transformationCount()));
+    if (assigns)
+        assignShortcutInternal(actionId, step.shortcut(), true, false);
+    else
+        unassignShortcutInternal(actionId, step.shortcut(), true);
+    Q_EMIT shortcutTransformAdded(step);
+}
+
+bool QvelShortcutManager::peekPresetMetadata(const QString &path, bool &locked, QString &name)
+{
+    if (path.isEmpty())
+        return false;
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return false;
+    if (!validateShortcutsTransforms(path))
+        return false;
+    if (const auto metadata = HotkeySetFile::readMetadata(file)) {
+        const QString &description = metadata->description;
+        name = description.isEmpty() ? QFileInfo(path).completeBaseName() : description;
+        locked = metadata->locked;
+    }
+    return true;
+}
+
+// The whole configuration
+
+void QvelShortcutManager::loadShortcutConfiguration(const QString &path)
+{
+    // The caller's text may belong to the path manager, which is told below to replace it.
+    const QString currentSet = path;
+    Q_EMIT shortcutConfigurationAboutToLoad(currentSet);
+    clearShortcuts();
+    loadBaseFiles();
+    assignDefaultAccelerators();
+    if (!currentSet.isEmpty())
+        loadShortcutTransforms(currentSet);
+    if (IPathManager *paths = IPathManager::get())
+        paths->setCurrentConfigurationFile(ConfigType::HotkeySet, currentSet);
+    Q_EMIT shortcutConfigurationLoaded(currentSet);
+}
+
+void QvelShortcutManager::loadCurrentShortcutConfiguration()
+{
+    const IPathManager *paths = IPathManager::get();
+    loadShortcutConfiguration(paths != nullptr
+                                      ? paths->getCurrentConfigurationFile(ConfigType::HotkeySet)
+                                      : QString());
+}
+
+void QvelShortcutManager::loadBaseFiles()
+{
+    const IPathManager *paths = IPathManager::get();
+    if (paths == nullptr)
+        return;
+    const QStringList files = paths->getBaseHotkeyFiles();
+    for (const QString &file : files) {
+        const QString suffix = QFileInfo(file).suffix();
+        if (suffix.compare(QLatin1String("hsxb"), Qt::CaseInsensitive) == 0) {
+            loadShortcuts(file);
+        } else if (suffix.compare(QLatin1String("hsx"), Qt::CaseInsensitive) == 0) {
+            loadShortcutTransforms(file);
+            applyTransforms();
+        }
+    }
+}
+
+void QvelShortcutManager::assignDefaultAccelerators()
+{
+    ICuiActionManager *registry = ICuiActionManager::get();
+    if (registry == nullptr)
+        return;
+    std::vector<std::pair<ActionIdentifier, QString>> accelerators;
+    registry->getDefaultAccelerators(this, accelerators);
+    for (const auto &[actionId, shortcut] : accelerators)
+        assignShortcutInternal(actionId, shortcut, false, true);
+}
+
+// Validation
+
+bool QvelShortcutManager::validateXml(const QString &file, const QString &schemaFile)
+{
+    if (file.isEmpty() || schemaFile.isEmpty())
+        return false;
+    const SchemaCheck::Result result = SchemaCheck::check(file, schemaFile);
+    if (result.verdict == SchemaCheck::Verdict::Invalid) {
+        logLazily(QvelMessageLog::Error, [&] {
+            return QStringLiteral("Validation of '%1' \nagainst schema definition '%2' failed!\n%3 "
+                                  "Line: %4 Column: %5")
+                    .arg(file, schemaFile, result.error.text, QString::number(result.error.line),
+                         QString::number(result.error.column));
+        });
+    }
+    return result.verdict == SchemaCheck::Verdict::Valid;
+}
+
+bool QvelShortcutManager::validateShortcuts(const QString &path)
+{
+    return validateXml(path, schemaPath(QLatin1String("HotkeyMappingSchema.xsd")));
+}
+
+bool QvelShortcutManager::validateShortcutsTransforms(const QString &path)
+{
+    return validateXml(path, schemaPath(QLatin1String("HotkeyTransformationSchema.xsd")));
+}
+
+bool QvelShortcutManager::validateLegacyKbdx(const QString &path)
+{
+    return validateXml(path, schemaPath(QLatin1String("LegacyKbdxSchema.xsd")));
+}
+
+} // namespace CUI

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ActionIdentifier.h"
+#include "CaseFoldedText.h"
+#include "QShortcutsList.h"
+
+#include <unordered_map>
+#include <vector>
+
+namespace CUI {
+
+/// Which actions hold a hotkey, letter case ignored: the inverse of the store's current map.
+class ShortcutOwnerIndex
+{
+public:
+    void add(const QString &shortcut, const ActionIdentifier &owner);
+    void remove(const QString &shortcut, const ActionIdentifier &owner);
+    void clear();
+    void rebuild(const std::unordered_map<ActionIdentifier, QShortcutsList> &shortcuts);
+
+    /// The holders of @p shortcut, the one that has held it longest first.
+    const std::vector<ActionIdentifier> &owners(const QString &shortcut) const;
+
+private:
+    std::unordered_map<CaseFoldedText, std::vector<ActionIdentifier>, CaseFoldedTextHash> m_owners;
+};
+
+} // namespace CUI

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ActionIdentifier.h"
+#include "UiCustomizationsExport.h"
+
+#include <QMetaType>
+#include <QString>
+
+#include <cstdint>
+
+namespace CUI {
+
+/// One recorded edit: a hotkey given to an action, or taken from it.
+class CUI_EXPORT ShortcutTransformation
+{
+public:
+    enum Kind : std::int32_t { Assign = 0, Unassign = 1 };
+
+    /// An assignment of nothing to no action; there so that the class can travel in a QVariant.
+    ShortcutTransformation() = default;
+    /// @p description is the action's display text at the time of the edit; it may be empty.
+    ShortcutTransformation(Kind kind, const ActionIdentifier &actionId, const QString &shortcut,
+                           const QString &description)
+        : m_kind(kind), m_actionId(actionId), m_shortcut(shortcut), m_description(description)
+    {
+    }
+
+    Kind kind() const { return m_kind; }
+    ActionIdentifier actionId() const { return m_actionId; }
+    /// One hotkey in portable text form.
+    QString shortcut() const { return m_shortcut; }
+    QString description() const { return m_description; }
+
+    /// The step in words, the four words of it translated: Add 'Ctrl+E' to Export.
+    QString toString() const;
+
+private:
+    Kind m_kind = Assign;
+    ActionIdentifier m_actionId;
+    QString m_shortcut;
+    QString m_description;
+};
+
+} // namespace CUI
+
+Q_DECLARE_METATYPE(CUI::ShortcutTransformation)

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QtCore/qglobal.h>
+
+#include <QString>
+
+#if defined(VELUTIL_LIBRARY)
+#    define VELUTIL_EXPORT Q_DECL_EXPORT
+#else
+#    define VELUTIL_EXPORT Q_DECL_IMPORT
+#endif
+
+/// Stand-in for the part of the host's utility library that UiCustomizations calls. A host links
+/// its own library in place of this one.
+namespace VelSDK {
+
+/// Installs the translations of a library when the library is loaded.
+///
+/// Made to be a static object of that library. As soon as there is an application object, it looks
+/// for the file "<directory>/<baseName>_<locale>.qm" of the system's language and installs it;
+/// without such a file the texts stay as they are in the source. User-interface thread only.
+class VELUTIL_EXPORT QvelTranslationLoader
+{
+    Q_DISABLE_COPY(QvelTranslationLoader)
+
+public:
+    /// @p directory is usually one of the resource system (":/translations").
+    QvelTranslationLoader(const QString &directory, const QString &baseName);
+    ~QvelTranslationLoader();
+
+    /// Replaces what the loaders of the process have installed by the files of @p locale, written
+    /// as in "de-DE". True when at least one loader has such a file.
+    static bool setLocale(const QString &locale);
+
+private:
+    class Private;
+    Private *d;
+};
+
+/// The factor by which the user interface of a screen is enlarged, -1 being the primary one; 0.25
+/// to 8. It is the one last set, else that of the environment variable VELUTIL_UI_SCALE, else 1.
+VELUTIL_EXPORT double GetUIScaleFactor(int screen);
+
+/// Sets the factor of every screen. One outside the range returns to that of the environment.
+VELUTIL_EXPORT void SetUIScaleFactor(double factor);
+
+} // namespace VelSDK
