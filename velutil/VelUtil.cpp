@@ -38,7 +38,7 @@ public:
     {
         m_translator = std::make_unique<QTranslator>();
         return m_translator->load(m_baseName + QLatin1Char('_') + locale, m_directory)
-                && QCoreApplication::installTranslator(m_translator.get());
+               && QCoreApplication::installTranslator(m_translator.get());
     }
 
     static std::vector<Private *> &all()

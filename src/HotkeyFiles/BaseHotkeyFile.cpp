@@ -22,7 +22,7 @@ const QLatin1String separator(", ");
 bool isWritable(const Entry &entry)
 {
     return XmlReading::isXmlText(entry.actionId.actionId)
-            && std::all_of(entry.shortcuts.begin(), entry.shortcuts.end(), XmlReading::isXmlText);
+           && std::all_of(entry.shortcuts.begin(), entry.shortcuts.end(), XmlReading::isXmlText);
 }
 
 void readEntry(const QXmlStreamAttributes &attributes, std::vector<Entry> &entries)

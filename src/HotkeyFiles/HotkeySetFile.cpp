@@ -23,7 +23,7 @@ const QLatin1String idAttribute("Id");
 bool isWritable(const ShortcutTransformation &step)
 {
     return XmlReading::isXmlText(step.actionId().actionId)
-            && XmlReading::isXmlText(step.shortcut());
+           && XmlReading::isXmlText(step.shortcut());
 }
 
 void readStep(const QXmlStreamReader &reader, std::vector<ShortcutTransformation> &steps)

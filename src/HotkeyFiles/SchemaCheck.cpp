@@ -104,8 +104,8 @@ CompiledSchema &schemaFor(const QString &path, const QByteArray &source)
     if (known != schemas().end() && known->second.isCompiledFrom(source))
         return known->second;
     // Comparing the source costs little beside a check, and never misses a change.
-    const auto added = schemas().insert_or_assign(
-            path, CompiledSchema(source, QUrl::fromLocalFile(path)));
+    const auto added =
+            schemas().insert_or_assign(path, CompiledSchema(source, QUrl::fromLocalFile(path)));
     return added.first->second;
 }
 
@@ -131,9 +131,9 @@ Result check(const QString &path, const QString &schemaPath)
         return {};
     const XmlScreening::Result screened = XmlScreening::screen(*document);
     CompiledSchema &schema = schemaFor(schemaPath, *source);
-    const std::optional<XmlError> error = screened.refusal
-            ? screened.refusal
-            : schema.validate(screened, QUrl::fromLocalFile(path));
+    const std::optional<XmlError> error =
+            screened.refusal ? screened.refusal
+                             : schema.validate(screened, QUrl::fromLocalFile(path));
     if (error)
         return {Verdict::Invalid, *error};
     return {Verdict::Valid, {}};

@@ -113,7 +113,8 @@ private:
         }
         for (const QXmlStreamNamespaceDeclaration &declaration : m_reader.namespaceDeclarations())
             note(declaration.prefix(), declaration.namespaceUri(), {});
-        return m_names.size() > maximumNames ? "The document has too many different names." : nullptr;
+        return m_names.size() > maximumNames ? "The document has too many different names."
+                                             : nullptr;
     }
 
     void note(const QStringRef &a, const QStringRef &b, const QStringRef &c)

@@ -11,10 +11,7 @@ public:
     int level = QvelMessageLog::Warning;
     std::deque<int> caps;
 
-    int effectiveType(int type) const
-    {
-        return caps.empty() ? type : std::min(caps.back(), type);
-    }
+    int effectiveType(int type) const { return caps.empty() ? type : std::min(caps.back(), type); }
 };
 
 namespace {

@@ -15,8 +15,7 @@ struct CaseFoldedText {
 
 inline bool operator==(const CaseFoldedText &a, const CaseFoldedText &b)
 {
-    return a.text.size() == b.text.size()
-            && a.text.compare(b.text, Qt::CaseInsensitive) == 0;
+    return a.text.size() == b.text.size() && a.text.compare(b.text, Qt::CaseInsensitive) == 0;
 }
 
 struct CaseFoldedTextHash {

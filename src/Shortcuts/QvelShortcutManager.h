@@ -68,9 +68,9 @@ public:
     /// \name Edits
     /// @{
 
-    /// Gives @p shortcut to the action as a user's edit and records the step. Does nothing, silently,
-    /// when the text is empty or the action already holds six hotkeys. @p description is the
-    /// action's display text, kept in the step.
+    /// Gives @p shortcut to the action as a user's edit and records the step. Does nothing,
+    /// silently, when the text is empty or the action already holds six hotkeys. @p description is
+    /// the action's display text, kept in the step.
     ///
     /// Emits, in this order: shortcutUnassigned() for an action of the same context that loses the
     /// hotkey, shortcutAssigned(), shortcutTransformsCollapsed(), a change of the modified state,
@@ -128,9 +128,9 @@ public:
     bool saveShortcutTransforms(const QString &path);
 
     /// Replaces the recorded steps by those of a hotkey set file and applies them, as unmodified
-    /// state. Returns true when all of it was read. A file that does not follow its schema is logged
-    /// as an error and changes nothing; steps before an error inside a file are kept. An assignment
-    /// to an action that already holds six hotkeys is dropped.
+    /// state. Returns true when all of it was read. A file that does not follow its schema is
+    /// logged as an error and changes nothing; steps before an error inside a file are kept. An
+    /// assignment to an action that already holds six hotkeys is dropped.
     ///
     /// Emits what clearTransforms() does, then for each step shortcutUnassigned() and
     /// shortcutAssigned() as an edit would, and shortcutTransformAdded().
@@ -164,7 +164,8 @@ public:
     static bool validateXml(const QString &file, const QString &schemaFile);
     /// validateXml() of a base hotkey file with HotkeyMappingSchema.xsd beside the executable.
     static bool validateShortcuts(const QString &path);
-    /// validateXml() of a hotkey set file with HotkeyTransformationSchema.xsd beside the executable.
+    /// validateXml() of a hotkey set file with HotkeyTransformationSchema.xsd beside the
+    /// executable.
     static bool validateShortcutsTransforms(const QString &path);
     /// validateXml() of a legacy keyboard file with LegacyKbdxSchema.xsd beside the executable.
     static bool validateLegacyKbdx(const QString &path);

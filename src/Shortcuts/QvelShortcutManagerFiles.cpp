@@ -60,8 +60,8 @@ QString schemaPath(QLatin1String fileName)
 }
 
 // The base hotkeys as the file holds them: ordered, so that two versions compare line by line.
-std::vector<BaseHotkeyFile::Entry>
-fileEntries(const std::unordered_map<ActionIdentifier, QShortcutsList> &shortcuts)
+std::vector<BaseHotkeyFile::Entry> fileEntries(
+        const std::unordered_map<ActionIdentifier, QShortcutsList> &shortcuts)
 {
     const ICuiActionManager *registry = ICuiActionManager::get();
     std::vector<BaseHotkeyFile::Entry> entries;
@@ -107,9 +107,8 @@ bool QvelShortcutManager::loadShortcuts(const QString &path)
 {
     if (path.isEmpty())
         return false;
-    logLazily(QvelMessageLog::Info, [&] {
-        return QStringLiteral("Loading hotkey configuration file '%1'.").arg(path);
-    });
+    logLazily(QvelMessageLog::Info,
+              [&] { return QStringLiteral("Loading hotkey configuration file '%1'.").arg(path); });
     if (!validateShortcuts(path))
         return false;
     QFile file(path);
@@ -162,9 +161,8 @@ bool QvelShortcutManager::loadShortcutTransforms(const QString &path)
 {
     if (path.isEmpty())
         return false;
-    logLazily(QvelMessageLog::Info, [&] {
-        return QStringLiteral("Loading shortcut transform file '%1'.").arg(path);
-    });
+    logLazily(QvelMessageLog::Info,
+              [&] { return QStringLiteral("Loading shortcut transform file '%1'.").arg(path); });
     if (!validateShortcutsTransforms(path))
         return false;
     QFile file(path);
