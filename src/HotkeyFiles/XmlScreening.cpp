@@ -147,13 +147,17 @@ Result screen(const QByteArray &document)
         return result;
     }
     QTextCodec *codec = scanCodec(document);
-    QString text = codec->toUnicode(document);
+    // A byte order mark stays in the text, so that it is there again in the blanked document.
+    QTextCodec::ConverterState decoding(QTextCodec::IgnoreHeader);
+    QString text = codec->toUnicode(document.constData(), document.size(), &decoding);
     if (hasOverlongTag(text)) {
         result.refusal = XmlError{QStringLiteral("A tag has too many attributes."), 0, 0, 0};
         return result;
     }
-    if (text.contains(QLatin1String("chemaLocation")) && blankSchemaHints(text))
-        result.document = codec->fromUnicode(text);
+    if (text.contains(QLatin1String("chemaLocation")) && blankSchemaHints(text)) {
+        QTextCodec::ConverterState encoding(QTextCodec::IgnoreHeader);
+        result.document = codec->fromUnicode(text.constData(), text.size(), &encoding);
+    }
 
     Screener screener(result.document);
     result.refusal = screener.run();

@@ -1,0 +1,40 @@
+#include "CaseFoldedText.h"
+
+#include <QtTest>
+
+#include <vector>
+
+using CUI::CaseFoldedText;
+using CUI::CaseFoldedTextHash;
+
+class TestCaseFoldedText : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void meetsWhatTheComparisonMeets();
+};
+
+// Every letter that folds, one that does not, and pairs of surrogates: texts that compare equal
+// without regard to case must have equal hashes.
+void TestCaseFoldedText::meetsWhatTheComparisonMeets()
+{
+    int folding = 0;
+    for (uint codePoint = 1; codePoint < 0x1FFFF; ++codePoint) {
+        const uint folded = QChar::toCaseFolded(codePoint);
+        if (folded == codePoint)
+            continue;
+        ++folding;
+        const CaseFoldedText text{QStringLiteral("Ctrl+") + QString::fromUcs4(&codePoint, 1)};
+        const CaseFoldedText other{QStringLiteral("cTRL+") + QString::fromUcs4(&folded, 1)};
+        QCOMPARE(text == other, text.text.size() == other.text.size()
+                                        && text.text.compare(other.text, Qt::CaseInsensitive) == 0);
+        if (text == other)
+            QCOMPARE(CaseFoldedTextHash()(text), CaseFoldedTextHash()(other));
+    }
+    QVERIFY(folding > 1000);
+    QVERIFY(!(CaseFoldedText{QStringLiteral("ß")} == CaseFoldedText{QStringLiteral("ss")}));
+}
+
+QTEST_GUILESS_MAIN(TestCaseFoldedText)
+#include "tst_CaseFoldedText.moc"
