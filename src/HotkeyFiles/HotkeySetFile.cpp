@@ -20,12 +20,6 @@ const QLatin1String descriptionAttribute("Description");
 const QLatin1String shortcutAttribute("Shortcut");
 const QLatin1String idAttribute("Id");
 
-bool isWritable(const ShortcutTransformation &step)
-{
-    return XmlReading::isXmlText(step.actionId().actionId)
-           && XmlReading::isXmlText(step.shortcut());
-}
-
 void readStep(const QXmlStreamReader &reader, std::vector<ShortcutTransformation> &steps)
 {
     const bool assigns = reader.name() == assignName;
@@ -95,6 +89,12 @@ bool write(QIODevice &device, const std::vector<ShortcutTransformation> &steps,
         writeStep(writer, step);
     writer.writeEndDocument();
     return !writer.hasError();
+}
+
+bool isWritable(const ShortcutTransformation &step)
+{
+    return XmlReading::isXmlText(step.actionId().actionId)
+           && XmlReading::isXmlText(step.shortcut());
 }
 
 const ShortcutTransformation *firstUnwritable(const std::vector<ShortcutTransformation> &steps)

@@ -42,7 +42,10 @@ std::optional<Metadata> readMetadata(QIODevice &device);
 bool write(QIODevice &device, const std::vector<ShortcutTransformation> &steps,
            LockAttribute lockAttribute);
 
-/// The first step whose identifier or hotkey holds a character that XML does not allow, or null.
+/// False when the step's identifier or hotkey holds a character that XML does not allow.
+bool isWritable(const ShortcutTransformation &step);
+
+/// The first step that is not writable, or null.
 const ShortcutTransformation *firstUnwritable(const std::vector<ShortcutTransformation> &steps);
 
 } // namespace HotkeySetFile

@@ -141,6 +141,12 @@ public:
     /// without description is named by its file name without the last suffix.
     static bool peekPresetMetadata(const QString &path, bool &locked, QString &name);
 
+    /// Writes to @p out the hotkey set that expresses the legacy keyboard file @p in as changes
+    /// against the host's legacy default file: what the user added, then what the user had removed.
+    /// False when a file cannot be read or written or does not follow its schema; the log says why,
+    /// and an existing @p out stays. No store is touched.
+    static bool convertLegacyShortcuts(const QString &in, const QString &out);
+
     /// Builds the whole configuration: the host's base files in their order, the registry's default
     /// accelerators, and the hotkey set @p path (may be empty) on top; tells the path manager that
     /// @p path is the current set. A base file of suffix hsxb replaces what came before it, one of

@@ -1,14 +1,15 @@
 #include "QvelShortcutManager.h"
 
 #include "BaseHotkeyFile.h"
+#include "FileValidation.h"
 #include "HotkeySetFile.h"
 #include "ICuiActionManager.h"
 #include "IPathManager.h"
 #include "LazyLog.h"
-#include "SchemaCheck.h"
+#include "LegacyConversion.h"
+#include "PresetMetadata.h"
 #include "XmlError.h"
 
-#include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -52,11 +53,6 @@ void logUnwritable(const QString &path, const QString &shortcut, const ActionIde
                               "that an XML file cannot hold.")
                 .arg(path, shortcut, actionId.toString());
     });
-}
-
-QString schemaPath(QLatin1String fileName)
-{
-    return QCoreApplication::applicationDirPath() + QLatin1Char('/') + fileName;
 }
 
 // The base hotkeys as the file holds them: ordered, so that two versions compare line by line.
@@ -201,19 +197,12 @@ void QvelShortcutManager::applyLoadedStep(const ShortcutTransformation &step)
 
 bool QvelShortcutManager::peekPresetMetadata(const QString &path, bool &locked, QString &name)
 {
-    if (path.isEmpty())
-        return false;
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return false;
-    if (!validateShortcutsTransforms(path))
-        return false;
-    if (const auto metadata = HotkeySetFile::readMetadata(file)) {
-        const QString &description = metadata->description;
-        name = description.isEmpty() ? QFileInfo(path).completeBaseName() : description;
-        locked = metadata->locked;
-    }
-    return true;
+    return PresetMetadata::peek(path, locked, name);
+}
+
+bool QvelShortcutManager::convertLegacyShortcuts(const QString &in, const QString &out)
+{
+    return LegacyConversion::convert(in, out);
 }
 
 // The whole configuration
@@ -273,33 +262,22 @@ void QvelShortcutManager::assignDefaultAccelerators()
 
 bool QvelShortcutManager::validateXml(const QString &file, const QString &schemaFile)
 {
-    if (file.isEmpty() || schemaFile.isEmpty())
-        return false;
-    const SchemaCheck::Result result = SchemaCheck::check(file, schemaFile);
-    if (result.verdict == SchemaCheck::Verdict::Invalid) {
-        logLazily(QvelMessageLog::Error, [&] {
-            return QStringLiteral("Validation of '%1' \nagainst schema definition '%2' failed!\n%3 "
-                                  "Line: %4 Column: %5")
-                    .arg(file, schemaFile, result.error.text, QString::number(result.error.line),
-                         QString::number(result.error.column));
-        });
-    }
-    return result.verdict == SchemaCheck::Verdict::Valid;
+    return FileValidation::validateXml(file, schemaFile);
 }
 
 bool QvelShortcutManager::validateShortcuts(const QString &path)
 {
-    return validateXml(path, schemaPath(QLatin1String("HotkeyMappingSchema.xsd")));
+    return FileValidation::validateShortcuts(path);
 }
 
 bool QvelShortcutManager::validateShortcutsTransforms(const QString &path)
 {
-    return validateXml(path, schemaPath(QLatin1String("HotkeyTransformationSchema.xsd")));
+    return FileValidation::validateShortcutsTransforms(path);
 }
 
 bool QvelShortcutManager::validateLegacyKbdx(const QString &path)
 {
-    return validateXml(path, schemaPath(QLatin1String("LegacyKbdxSchema.xsd")));
+    return FileValidation::validateLegacyKbdx(path);
 }
 
 } // namespace CUI

@@ -1,0 +1,91 @@
+#include "LegacyConversion.h"
+
+#include "FileValidation.h"
+#include "HotkeySetFile.h"
+#include "IPathManager.h"
+#include "LazyLog.h"
+#include "LegacyKeyboardFile.h"
+#include "TransformationCollapser.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+
+namespace CUI::LegacyConversion {
+
+namespace {
+
+using Steps = std::vector<ShortcutTransformation>;
+
+bool fail(const QString &text, const QString &path)
+{
+    logLazily(QvelMessageLog::Error, [&] { return text.arg(path); });
+    return false;
+}
+
+QString legacyDefaultFile()
+{
+    const IPathManager *paths = IPathManager::get();
+    const QString directory = paths != nullptr ? paths->getLegacyHotkeyDirectory() : QString();
+    return directory + QDir::separator() + QLatin1String("LegacyDefaultUI-2019.kbdx");
+}
+
+// Appends a step of that kind for each accelerator of the file.
+bool readLegacyShortcuts(const QString &path, Steps &records, ShortcutTransformation::Kind kind)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return fail(QStringLiteral("Could not open the legacy hotkey configuration '%1'."), path);
+    if (!FileValidation::validateLegacyKbdx(path))
+        return fail(QStringLiteral("'%1' is not a valid kbdx file."), path);
+    const auto steps = LegacyKeyboardFile::read(file, kind);
+    if (!steps)
+        return fail(QStringLiteral("Could not parse legacy hotkey configuration '%1'."),
+                    file.fileName());
+    records.insert(records.end(), steps->begin(), steps->end());
+    return true;
+}
+
+// A character code can be that of a control character. A set without it is worth more to the user
+// than no set at all.
+void dropUnwritable(Steps &steps)
+{
+    const auto isUnwritable = [](const ShortcutTransformation &step) {
+        if (HotkeySetFile::isWritable(step))
+            return false;
+        logLazily(QvelMessageLog::Warning, [&step] {
+            return QStringLiteral("A hotkey of '%1' is left out: it holds a character that an XML "
+                                  "file cannot hold.")
+                    .arg(step.actionId().toString());
+        });
+        return true;
+    };
+    steps.erase(std::remove_if(steps.begin(), steps.end(), isUnwritable), steps.end());
+}
+
+} // namespace
+
+bool convert(const QString &in, const QString &out)
+{
+    if (in.isEmpty() || out.isEmpty())
+        return false;
+    Steps steps;
+    if (!readLegacyShortcuts(in, steps, ShortcutTransformation::Assign)
+        || !readLegacyShortcuts(legacyDefaultFile(), steps, ShortcutTransformation::Unassign))
+        return false;
+    // What both files have cancels out; the user's additions and removals remain.
+    TransformationCollapser::collapse(steps, 0);
+    dropUnwritable(steps);
+
+    QSaveFile file(out);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return fail(QStringLiteral("Could not open '%1' to store the results of conversion."), out);
+    if (!HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::Omit) || !file.commit())
+        return false;
+    return FileValidation::validateShortcutsTransforms(out);
+}
+
+} // namespace CUI::LegacyConversion

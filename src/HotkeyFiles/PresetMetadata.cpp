@@ -1,0 +1,86 @@
+#include "PresetMetadata.h"
+
+#include "FileAttributes.h"
+#include "FileValidation.h"
+#include "HotkeySetFile.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+namespace CUI::PresetMetadata {
+
+namespace {
+
+using FileAttributes::Stamp;
+
+struct CachedMetadata {
+    Stamp file;
+    Stamp schema;
+    bool locked = false;
+    QString name;
+};
+
+constexpr qint64 nanosecondsPerMillisecond = 1000000;
+constexpr qint64 nanosecondsPerSecond = 1000 * nanosecondsPerMillisecond;
+
+// Two writes within one tick of the file system's clock leave the same time behind. So what was
+// read is only remembered once that clock has moved on; a time without fraction of a second speaks
+// of a file system that counts in seconds or two.
+bool isSettled(const Stamp &stamp, qint64 now)
+{
+    const bool countsSeconds = stamp.changed % nanosecondsPerSecond == 0;
+    const qint64 tick = countsSeconds ? 3 * nanosecondsPerSecond : 50 * nanosecondsPerMillisecond;
+    return now - stamp.changed > tick;
+}
+
+qint64 nowInNanoseconds()
+{
+    return QDateTime::currentMSecsSinceEpoch() * nanosecondsPerMillisecond;
+}
+
+} // namespace
+
+bool peek(const QString &path, bool &locked, QString &name)
+{
+    if (path.isEmpty())
+        return false;
+    QFile file(path);
+    // Opening a pipe would wait for somebody to write to it.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return false;
+    if (!FileValidation::validateShortcutsTransforms(path))
+        return false;
+    if (const auto metadata = HotkeySetFile::readMetadata(file)) {
+        const QString &description = metadata->description;
+        name = description.isEmpty() ? QFileInfo(path).completeBaseName() : description;
+        locked = metadata->locked;
+    }
+    return true;
+}
+
+bool peekCached(const QString &path, bool &locked, QString &name)
+{
+    static QHash<QString, CachedMetadata> cache;
+
+    const qint64 now = nowInNanoseconds();
+    const auto file = FileAttributes::stampOf(path);
+    const auto schema = FileAttributes::stampOf(FileValidation::transformationSchemaPath());
+    const auto known = cache.constFind(path);
+    if (known != cache.constEnd() && file && schema && *file == known->file
+        && *schema == known->schema) {
+        locked = known->locked;
+        name = known->name;
+        return QFileInfo(path).isReadable();
+    }
+    cache.remove(path);
+    if (!peek(path, locked, name))
+        return false;
+    // Stamps taken before reading: a change in between shows at the next look.
+    if (file && schema && isSettled(*file, now) && isSettled(*schema, now))
+        cache.insert(path, {*file, *schema, locked, name});
+    return true;
+}
+
+} // namespace CUI::PresetMetadata

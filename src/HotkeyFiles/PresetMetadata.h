@@ -1,0 +1,18 @@
+#pragma once
+
+class QString;
+
+namespace CUI {
+
+/// What a hotkey set file says about itself.
+namespace PresetMetadata {
+
+/// QvelShortcutManager::peekPresetMetadata(), which documents it.
+bool peek(const QString &path, bool &locked, QString &name);
+
+/// The same result, from memory when neither the file nor the schema has changed since it was
+/// found. Files that fail are looked at anew every time, so that the log names them every time.
+bool peekCached(const QString &path, bool &locked, QString &name);
+
+} // namespace PresetMetadata
+} // namespace CUI
