@@ -5,6 +5,7 @@
 #include "IPathManager.h"
 #include "LazyLog.h"
 #include "LegacyKeyboardFile.h"
+#include "SaveFileCommit.h"
 #include "TransformationCollapser.h"
 
 #include <QDir>
@@ -83,7 +84,8 @@ bool convert(const QString &in, const QString &out)
     QSaveFile file(out);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return fail(QStringLiteral("Could not open '%1' to store the results of conversion."), out);
-    if (!HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::Omit) || !file.commit())
+    if (!HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::Omit)
+        || !commitWhole(file))
         return false;
     return FileValidation::validateShortcutsTransforms(out);
 }

@@ -21,11 +21,12 @@ struct Result {
 };
 
 /// Checks the file at @p path against the schema at @p schemaPath. A schema is compiled at its
-/// first use in the process, and again when the contents of its file have changed. The document
+/// first use in the process, and again when the contents of its file (not of files that it
+/// includes) have changed. The document
 /// makes the check neither read another file nor open a connection.
 Result check(const QString &path, const QString &schemaPath);
 
-/// How often a schema has been compiled in this process.
+/// How often a schema has been compiled in this process: what keeping them compiled is measured by.
 int compilationCount();
 
 } // namespace SchemaCheck

@@ -17,21 +17,22 @@ namespace XmlScreening {
 
 /// The largest document, in bytes, that is read at all.
 constexpr qint64 maximumSize = 64 * 1024 * 1024;
-/// How many elements and attributes together a document may have.
-constexpr int maximumNodes = 4000000;
+/// How many elements, attributes, comments, texts and the like a document may have; a base file
+/// has six for each action.
+constexpr int maximumNodes = 1000000;
 /// How deep elements may be nested.
 constexpr int maximumDepth = 100;
 /// How many attributes one tag may have; the reader compares each with all others.
 constexpr int maximumAttributes = 200;
-/// How many different names, prefixes and namespaces a document may use; the processor has room
-/// for 4095 names and 510 prefixes.
+/// How many different names, prefixes, namespaces and targets of processing instructions a document
+/// may use; the processor has room for 4095 names and 510 prefixes.
 constexpr int maximumNames = 400;
 
 struct Result {
-    /// The document without the places in which it names a schema of its own; these are blanked
+    /// The document without the attributes in which it names a schema of its own; these are blanked
     /// out, so that every other character keeps its line and column.
     QByteArray document;
-    /// All local names, prefixes and namespaces of the document.
+    /// All names that the processor will number.
     std::set<QString, std::less<>> names;
     /// Why the document must not be processed. Documents that are not well-formed are not refused:
     /// the processor stops at the same place and says so itself.

@@ -28,12 +28,16 @@ QvelFileMessageLogger::~QvelFileMessageLogger() = default;
 
 void QvelFileMessageLogger::logMessage(const QString &line)
 {
-    if (!m_file->isOpen())
-        m_file->open(QIODevice::WriteOnly);
-    if (!m_file->isOpen())
-        return; // writing would only make the stream complain that it has no device
+    // Without a file, writing would only make the toolkit complain on the debug output.
+    if (m_file->fileName().isEmpty())
+        return;
+    if (!m_file->isOpen() && !m_file->open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return;
     *m_stream << line << Qt::endl;
     m_stream->flush();
+    // After a failure a stream writes nothing more and keeps every line; start afresh.
+    if (m_stream->status() != QTextStream::Ok)
+        m_stream = std::make_unique<QTextStream>(m_file.get());
 }
 
 } // namespace CUI

@@ -27,8 +27,8 @@ public:
 
 public Q_SLOTS:
     /// Writes @p line and a line break; both are on disk on return. The first line in the life of
-    /// the object replaces what the file held before. A file that cannot be opened loses the line
-    /// silently and is tried again with the next one.
+    /// the object replaces what the file held before. A line that cannot be written is lost
+    /// silently; the next one is tried again.
     void logMessage(const QString &line);
 
 private:

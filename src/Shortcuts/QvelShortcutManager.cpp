@@ -73,13 +73,15 @@ ActionIdentifier QvelShortcutManager::getActionIdFromShortcut(const QString &sho
     const ICuiActionManager *registry = ICuiActionManager::get();
     if (registry == nullptr)
         return {};
+    ActionIdentifier first;
     for (const ActionIdentifier &owner : ownerIndex->owners(shortcut)) {
         // Asked anew each time: the host may have given the action another context meanwhile.
         const VelAction *action = registry->getAction(owner);
-        if (action != nullptr && action->contextId() == contextId)
-            return owner;
+        if (action != nullptr && action->contextId() == contextId
+            && (first.isEmpty() || owner < first))
+            first = owner;
     }
-    return {};
+    return first;
 }
 
 bool QvelShortcutManager::hasRoomForShortcuts(const ActionIdentifier &identifier) const
@@ -219,14 +221,21 @@ void QvelShortcutManager::unassignShortcutInternal(const ActionIdentifier &ident
 void QvelShortcutManager::applyTransforms()
 {
     baseShortcuts = currentShortcuts;
-    clearTransforms();
+    if (transformationCount() > 0)
+        dropTransforms();
 }
 
 void QvelShortcutManager::clearTransforms()
 {
     if (transformationCount() == 0)
         return;
-    replaceCurrentByBase();
+    currentShortcuts = baseShortcuts;
+    ownerIndex->rebuild(currentShortcuts);
+    dropTransforms();
+}
+
+void QvelShortcutManager::dropTransforms()
+{
     resetTransformations();
     checkModifiedAndEmit();
     Q_EMIT shortcutTransformsCleared();
@@ -263,12 +272,6 @@ void QvelShortcutManager::resetTransformations()
     transformations.clear();
     collapser->reset();
     userModTransformIndex = 0;
-}
-
-void QvelShortcutManager::replaceCurrentByBase()
-{
-    currentShortcuts = baseShortcuts;
-    ownerIndex->rebuild(currentShortcuts);
 }
 
 void QvelShortcutManager::setUserModTransformIndex(int index)

@@ -44,7 +44,8 @@ public:
     /// They answer unknown actions with an empty text, the empty identifier or false.
     /// @{
 
-    /// The hotkeys in effect. Only actions that hold at least one have an entry.
+    /// The hotkeys in effect. Only actions that hold at least one have an entry. The reference
+    /// stays valid; what it leads to changes with every edit.
     const std::unordered_map<ActionIdentifier, QShortcutsList> &getShortcuts() const;
     /// The recorded steps, oldest first. The reference is valid until the next edit.
     const std::vector<ShortcutTransformation> &currentTransformations() const;
@@ -54,7 +55,8 @@ public:
     QString getBaseShortcutsFromActionId(const ActionIdentifier &identifier) const;
     /// The action of that context that holds @p shortcut, letter case ignored; the empty identifier
     /// when there is none. Actions that the registry does not know are never found. When several
-    /// hold it, the one that has held it longest is returned. Costs no more in a large store.
+    /// hold it, the one with the smallest identifier is returned. Costs what the number of actions
+    /// that hold the hotkey in any context costs, however many the store has.
     ActionIdentifier getActionIdFromShortcut(const QString &shortcut,
                                              unsigned long contextId) const;
     /// True while unsaved edits remain after cancelling opposite ones.
@@ -105,14 +107,15 @@ public:
     /// @}
 
     /// \name Files
-    /// Paths are local file paths; an empty one makes each operation do nothing and return false.
-    /// Files are written as a whole or not at all: when writing fails, the old file stays.
+    /// Paths are local file paths; with an empty one, saving, loading one file and peeking do
+    /// nothing. Files are written as a whole or not at all: when writing fails, the old file stays.
+    /// A description loses the characters that XML cannot hold; a hotkey or an identifier with such
+    /// a character makes the save fail, with an error in the log.
     /// @{
 
     /// Writes the base hotkeys as a base hotkey file, ordered by action. When the file cannot be
-    /// written, the old one stays and nothing is said, except of a hotkey that XML cannot hold,
-    /// which is logged as an error. A result that does not follow the schema is reported on the
-    /// process's debug output.
+    /// opened or written, nothing is said. A result that does not follow the schema is reported on
+    /// the process's debug output.
     void saveShortcuts(const QString &path) const;
 
     /// Replaces the store's contents by a base hotkey file. Returns true when all of it was read.
@@ -124,7 +127,8 @@ public:
     /// Writes the recorded steps as a hotkey set file and makes them the unmodified state. The
     /// steps are cancelled first, even when the file can then not be written. Emits
     /// shortcutTransformsCollapsed(), then shortcutsUnModified() if there were unsaved edits.
-    /// Returns false, with the old file untouched, when it cannot be written.
+    /// Returns false, with the old file untouched and the store as modified as before, when it
+    /// cannot be written.
     bool saveShortcutTransforms(const QString &path);
 
     /// Replaces the recorded steps by those of a hotkey set file and applies them, as unmodified
@@ -150,7 +154,8 @@ public:
     /// Builds the whole configuration: the host's base files in their order, the registry's default
     /// accelerators, and the hotkey set @p path (may be empty) on top; tells the path manager that
     /// @p path is the current set. A base file of suffix hsxb replaces what came before it, one of
-    /// suffix hsx is added to it; others are ignored, and so are files that fail.
+    /// suffix hsx is added to it; others are ignored. A file that fails contributes what it would
+    /// contribute to the single load.
     ///
     /// Emits shortcutConfigurationAboutToLoad(), the signals of each of these steps, and
     /// shortcutConfigurationLoaded().
@@ -227,15 +232,15 @@ private:
                                 bool userModification, bool checkRoom);
     void unassignShortcutInternal(const ActionIdentifier &identifier, const QString &shortcut,
                                   bool userModification);
-    ActionIdentifier findConflict(const ActionIdentifier &identifier, const QString &shortcut,
-                                  unsigned long contextId) const;
     bool hasRoomForShortcuts(const ActionIdentifier &identifier) const;
     std::size_t transformationCount() const;
     void resetTransformations();
     void setUserModTransformIndex(int index);
     void clampUserModTransformIndex();
     void checkModifiedAndEmit();
-    void replaceCurrentByBase();
+    void dropTransforms();
+    bool writeTransforms(const QString &path) const;
+    void reclaimUnsavedSteps(const std::vector<ShortcutTransformation> &savedSteps);
 
     void applyLoadedStep(const ShortcutTransformation &step);
     void loadBaseFiles();

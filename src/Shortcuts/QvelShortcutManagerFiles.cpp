@@ -8,6 +8,7 @@
 #include "LazyLog.h"
 #include "LegacyConversion.h"
 #include "PresetMetadata.h"
+#include "SaveFileCommit.h"
 #include "XmlError.h"
 
 #include <QDebug>
@@ -92,17 +93,18 @@ void QvelShortcutManager::saveShortcuts(const QString &path) const
         logUnwritable(path, entry->shortcuts.join(QLatin1String(", ")), entry->actionId);
         return;
     }
-    if (!BaseHotkeyFile::write(file, entries) || !file.commit())
+    if (!BaseHotkeyFile::write(file, entries) || !commitWhole(file))
         return;
     if (!validateShortcuts(path))
         qDebug("Generated shortcuts file doesn't conform to the schema defined in "
                "HotkeyMappingSchema.xsd.");
 }
 
-bool QvelShortcutManager::loadShortcuts(const QString &path)
+bool QvelShortcutManager::loadShortcuts(const QString &callersPath)
 {
-    if (path.isEmpty())
+    if (callersPath.isEmpty())
         return false;
+    const QString path = callersPath; // slots may change the caller's
     logLazily(QvelMessageLog::Info,
               [&] { return QStringLiteral("Loading hotkey configuration file '%1'.").arg(path); });
     if (!validateShortcuts(path))
@@ -130,11 +132,29 @@ bool QvelShortcutManager::loadShortcuts(const QString &path)
 
 // Hotkey set files
 
-bool QvelShortcutManager::saveShortcutTransforms(const QString &path)
+bool QvelShortcutManager::saveShortcutTransforms(const QString &callersPath)
 {
-    if (path.isEmpty())
+    if (callersPath.isEmpty())
         return false;
+    const QString path = callersPath; // slots may change the caller's
+    clampUserModTransformIndex();
+    const auto &steps = currentTransformations();
+    std::vector<ShortcutTransformation> savedSteps(
+            steps.begin(), steps.begin() + static_cast<std::ptrdiff_t>(userModTransformIndex));
     collapseTransforms(0);
+    if (!writeTransforms(path)) {
+        reclaimUnsavedSteps(savedSteps);
+        return false;
+    }
+    setUserModTransformIndex(static_cast<int>(transformationCount()));
+    if (!validateShortcutsTransforms(path))
+        qDebug("Generated transformation file doesn't conform to the schema defined in "
+               "HotkeyTransformationSchema.xsd.");
+    return true;
+}
+
+bool QvelShortcutManager::writeTransforms(const QString &path) const
+{
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return false;
@@ -143,20 +163,33 @@ bool QvelShortcutManager::saveShortcutTransforms(const QString &path)
         logUnwritable(path, step->shortcut(), step->actionId());
         return false;
     }
-    if (!HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::WriteUnlocked)
-        || !file.commit())
-        return false;
-    setUserModTransformIndex(static_cast<int>(transformationCount()));
-    if (!validateShortcutsTransforms(path))
-        qDebug("Generated transformation file doesn't conform to the schema defined in "
-               "HotkeyTransformationSchema.xsd.");
-    return true;
+    return HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::WriteUnlocked)
+           && commitWhole(file);
 }
 
-bool QvelShortcutManager::loadShortcutTransforms(const QString &path)
+// After a save that failed, the list has been cancelled across the boundary between saved and
+// unsaved steps. Only what the saved steps and the list have in common at their start still counts
+// as saved; otherwise unsaved edits would pass for saved ones.
+void QvelShortcutManager::reclaimUnsavedSteps(const std::vector<ShortcutTransformation> &savedSteps)
 {
-    if (path.isEmpty())
+    const auto isSame = [](const ShortcutTransformation &a, const ShortcutTransformation &b) {
+        return a.kind() == b.kind() && a.actionId() == b.actionId() && a.shortcut() == b.shortcut();
+    };
+    const auto &steps = currentTransformations();
+    const auto common =
+            std::mismatch(savedSteps.begin(), savedSteps.end(), steps.begin(), steps.end(), isSame);
+    const bool lostSavedSteps = common.first != savedSteps.end();
+    const bool allCommon = common.second == steps.end();
+    userModTransformIndex = lostSavedSteps && allCommon
+                                    ? 0
+                                    : static_cast<std::uint64_t>(common.second - steps.begin());
+}
+
+bool QvelShortcutManager::loadShortcutTransforms(const QString &callersPath)
+{
+    if (callersPath.isEmpty())
         return false;
+    const QString path = callersPath; // slots may change the caller's
     logLazily(QvelMessageLog::Info,
               [&] { return QStringLiteral("Loading shortcut transform file '%1'.").arg(path); });
     if (!validateShortcutsTransforms(path))
@@ -207,19 +240,18 @@ bool QvelShortcutManager::convertLegacyShortcuts(const QString &in, const QStrin
 
 // The whole configuration
 
-void QvelShortcutManager::loadShortcutConfiguration(const QString &path)
+void QvelShortcutManager::loadShortcutConfiguration(const QString &callersPath)
 {
-    // The caller's text may belong to the path manager, which is told below to replace it.
-    const QString currentSet = path;
-    Q_EMIT shortcutConfigurationAboutToLoad(currentSet);
+    const QString path = callersPath; // slots and the path manager may change the caller's
+    Q_EMIT shortcutConfigurationAboutToLoad(path);
     clearShortcuts();
     loadBaseFiles();
     assignDefaultAccelerators();
-    if (!currentSet.isEmpty())
-        loadShortcutTransforms(currentSet);
+    if (!path.isEmpty())
+        loadShortcutTransforms(path);
     if (IPathManager *paths = IPathManager::get())
-        paths->setCurrentConfigurationFile(ConfigType::HotkeySet, currentSet);
-    Q_EMIT shortcutConfigurationLoaded(currentSet);
+        paths->setCurrentConfigurationFile(ConfigType::HotkeySet, path);
+    Q_EMIT shortcutConfigurationLoaded(path);
 }
 
 void QvelShortcutManager::loadCurrentShortcutConfiguration()

@@ -18,7 +18,7 @@ public:
     void clear();
     void rebuild(const std::unordered_map<ActionIdentifier, QShortcutsList> &shortcuts);
 
-    /// The holders of @p shortcut, the one that has held it longest first.
+    /// The holders of @p shortcut in no particular order; usually one for each context.
     const std::vector<ActionIdentifier> &owners(const QString &shortcut) const;
 
 private:

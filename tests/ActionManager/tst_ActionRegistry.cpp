@@ -16,7 +16,12 @@ class MortalRegistry : public TestRegistry
 {
 public:
     explicit MortalRegistry(bool *alive) : m_alive(alive) { *m_alive = true; }
-    ~MortalRegistry() override { *m_alive = false; }
+    ~MortalRegistry() override
+    {
+        *m_alive = false;
+        foundAtDeath = ICuiActionManager::get();
+    }
+    static inline ICuiActionManager *foundAtDeath = nullptr;
 
 private:
     bool *m_alive;
@@ -60,6 +65,7 @@ void TestActionRegistry::installs()
     QVERIFY(first == nullptr && firstAlive);
     ICuiActionManager::set(second);
     QVERIFY(!firstAlive);
+    QVERIFY(MortalRegistry::foundAtDeath != secondPointer); // the old one dies first
     QCOMPARE(ICuiActionManager::get(), secondPointer);
     ICuiActionManager::set(second); // empty by now
     QVERIFY(!secondAlive);

@@ -1,5 +1,6 @@
 #include "SchemaCheck.h"
 #include "TestHost.h"
+#include "XmlErrorMessageHandler.h"
 #include "XmlScreening.h"
 
 #include <UiCustomizations/QvelMessageLog.h>
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void judgesByShippedSchemas_data();
     void judgesByShippedSchemas();
     void reportsLastMessageWithoutMarkup();
+    void keepsTheLastMessage();
     void reportsBrokenSchema();
     void saysNothingOfUnreadableFiles();
     void compilesEachSchemaOnce();
@@ -75,14 +77,24 @@ void TestSchemaCheck::judgesByShippedSchemas_data()
     QTest::addColumn<QByteArray>("document");
     QTest::addColumn<bool>("valid");
 
-    const auto row = [](const char *suffix, const char *document, bool valid) {
-        QTest::newRow(document) << s(suffix) << QByteArray(document) << valid;
+    const auto row = [](const char *suffix, const QByteArray &document, bool valid) {
+        QTest::newRow(document.left(120).constData()) << s(suffix) << document << valid;
     };
     row("hsxb", "<VelHotkeys/>", true);
     row("hsxb", "<VelHotkeys> <Hotkey Shortcut='' Id='1-'/><!-- c --></VelHotkeys>", true);
     row("hsxb", "<VelHotkeys><Hotkey Shortcut='A, B' Description='' Id='1-a-b'/></VelHotkeys>",
         true);
     row("hsxb", "<VelHotkeys><Hotkey Shortcut='A' Id='1-a&#10;b'/></VelHotkeys>", true);
+    const QByteArray banner(300, '=');
+    row("hsxb",
+        "<!-- " + banner + " '<' --><VelHotkeys><?x " + banner
+                + "?><Hotkey Shortcut='=' Description='" + banner + "' Id='1-a'/></VelHotkeys>",
+        true);
+    row("hsxb",
+        "<VelHotkeys xmlns:y='http://www.w3.org/2001/XMLSchema-instance'><Hotkey Shortcut=\"A "
+        "y:schemaLocation='\" Bad=\"'\" Id='1-a'/></VelHotkeys>",
+        false);
+    row("hsxb", "<VelHotkeys xmlns:y='urn:y' y:schemaLocation='x'/>", false);
     row("hsxb", "<VelHotkeys><Hotkey Shortcut='A' Id='x-a'/></VelHotkeys>", false);
     row("hsxb", "<VelHotkeys><Hotkey Shortcut='A' Id='1'/></VelHotkeys>", false);
     row("hsxb", "<VelHotkeys><Hotkey Shortcut='A' Id='-1-a'/></VelHotkeys>", false);
@@ -149,6 +161,17 @@ void TestSchemaCheck::reportsLastMessageWithoutMarkup()
                      .match(message)
                      .hasMatch(),
              qPrintable(message));
+}
+
+void TestSchemaCheck::keepsTheLastMessage()
+{
+    CUI::XmlErrorMessageHandler handler;
+    handler.message(QtWarningMsg, s("first"), QUrl(), QSourceLocation(QUrl(), 1, 2));
+    handler.message(QtWarningMsg, s("<p>Element <em class='x'>Odd</em> is &lt;odd&gt;.</p>"),
+                    QUrl(), QSourceLocation(QUrl(), 3, 4));
+    QCOMPARE(handler.description(), s("Element Odd is &lt;odd&gt;."));
+    QCOMPARE(handler.sourceLocation().line(), qint64(3));
+    QCOMPARE(handler.sourceLocation().column(), qint64(4));
 }
 
 void TestSchemaCheck::reportsBrokenSchema()
@@ -240,8 +263,22 @@ void TestSchemaCheck::refusesHostileDocuments_data()
         "The document has too many different names.");
     row("prefixes", "<VLSK_KBD>" + prefixes + "</VLSK_KBD>",
         "The document has too many different names.");
-    row("elements", "<VLSK_KBD>" + repeated("<a/>", 4000001) + "</VLSK_KBD>",
+    row("elements", "<VLSK_KBD>" + repeated("<a/>", 600000) + "</VLSK_KBD>",
         "The document has too many elements.");
+    row("comments", "<VLSK_KBD>" + repeated("<!---->", 1100000) + "</VLSK_KBD>",
+        "The document has too many elements.");
+    QByteArray instructions;
+    for (int i = 0; i < 40000; ++i)
+        instructions += "<?p" + QByteArray::number(i) + "?>";
+    row("instructions", instructions + "<VLSK_KBD/>", "The document has too many different names.");
+    QByteArray hidden;
+    for (int i = 0; i < 40000; ++i) // U+3C41 has the byte of '<' in it
+        hidden += " a" + QByteArray::number(i) + "='\xe3\xb1\x81'";
+    hidden = "<VLSK_KBD" + hidden + "/>";
+    const QByteArray marked =
+            QTextCodec::codecForName("UTF-16")->fromUnicode(QString::fromUtf8(hidden));
+    row("attributes in UTF-16", marked, "A tag has too many attributes.");
+    row("UTF-16 without mark", marked.mid(2), "The encoding is not supported.");
     row("size", "<VLSK_KBD>" + QByteArray(int(XmlScreening::maximumSize), ' ') + "</VLSK_KBD>",
         "The file is too large.");
     row("encoding", "<?xml version='1.0' encoding='IBM037'?><VLSK_KBD/>",
@@ -268,6 +305,8 @@ void TestSchemaCheck::neverFollowsSchemaHints_data()
     QTest::newRow("no namespace") << hint + "'other.xsd'" << false;
     QTest::newRow("double quotes, line break") << hint + "\n \"other.xsd\"" << false;
     QTest::newRow("UTF-16") << hint + "'other.xsd'" << true;
+    QTest::newRow("declared by a later attribute")
+            << QByteArray(" xsi:noNamespaceSchemaLocation='other.xsd'") + schemaInstance << false;
     QTest::newRow("namespace") << QByteArray(schemaInstance)
                                           + " xsi:schemaLocation='urn:x other.xsd'"
                                << false;

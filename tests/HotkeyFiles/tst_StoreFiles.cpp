@@ -1,3 +1,4 @@
+#include "FullDisk.h"
 #include "Recorder.h"
 #include "TestHost.h"
 
@@ -53,12 +54,16 @@ private Q_SLOTS:
     void dropsAssignmentsWithoutRoom();
     void failingSaveKeepsTheOldFile_data();
     void failingSaveKeepsTheOldFile();
+    void failingSaveKeepsTheEdits();
+    void keepsWhatStandsBeforeAnError();
+    void tellsOfSavedFileThatDoesNotConform();
     void refusesHotkeysThatXmlCannotHold();
     void peeks();
 
     void layersConfiguration();
     void laterBaseReplacesEarlier();
     void acceleratorsMoveHotkeys();
+    void acceleratorsMoveHotkeysThatOnlyTheBaseHas();
     void loadsCurrentConfiguration();
     void loadsWithoutHost();
     void survivesFailingFiles();
@@ -265,6 +270,7 @@ void TestStoreFiles::failingSaveKeepsTheOldFile_data()
     QTest::addColumn<QString>("fileName");
     QTest::newRow("no such folder") << s("nowhere/a.hsx");
     QTest::newRow("is a folder") << s("folder");
+    QTest::newRow("full disk") << s("old.hsx");
 }
 
 void TestStoreFiles::failingSaveKeepsTheOldFile()
@@ -272,15 +278,84 @@ void TestStoreFiles::failingSaveKeepsTheOldFile()
     QFETCH(QString, fileName);
     const auto everything = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
     QVERIFY(QDir(m_host->path(QString())).mkpath(s("folder/inner")));
+    const QString old = m_host->write(s("old.hsx"), "old");
     const QStringList before = QDir(m_host->path(QString())).entryList(everything);
     m_store->assignShortcut(a, s("A"), s("A"));
     m_recorder->take();
+    const FullDisk disk(50);
     m_store->saveShortcuts(m_host->path(fileName));
     QCOMPARE(m_recorder->take(), QStringList());
     QVERIFY(!m_store->saveShortcutTransforms(m_host->path(fileName)));
     QCOMPARE(m_recorder->take(), QStringList({s("collapsed")})); // before the file is opened
     QVERIFY(m_store->isUserModified());
     QCOMPARE(QDir(m_host->path(QString())).entryList(everything), before);
+    QCOMPARE(TestHost::read(old), QByteArray("old"));
+}
+
+// Cancelling the steps before the failed save must not make unsaved edits pass for saved ones.
+void TestStoreFiles::failingSaveKeepsTheEdits()
+{
+    const QString nowhere = m_host->path(s("nowhere/a.hsx"));
+    m_store->assignShortcut(a, s("X"), s("A"));
+    m_store->assignShortcut(a, s("Y"), s("A"));
+    QVERIFY(m_store->saveShortcutTransforms(m_host->path(s("a.hsx"))));
+    m_store->unassignShortcut(a, s("X"), s("A"));
+    QVERIFY(!m_store->saveShortcutTransforms(nowhere));
+    m_store->assignShortcut(b, s("Q"), s("B"));
+    QVERIFY(m_store->isUserModified());
+    QVERIFY(m_store->isUserModifiedAction(b));
+    QVERIFY(!m_store->saveShortcutTransforms(nowhere));
+    m_store->unassignShortcut(b, s("Q"), s("B"));
+    m_store->unassignShortcut(a, s("Y"), s("A"));
+    QVERIFY(m_store->saveShortcutTransforms(m_host->path(s("a.hsx"))));
+    QVERIFY(!m_store->isUserModified());
+    QVERIFY(m_store->currentTransformations().empty());
+}
+
+// The file changes between the check and the reading, as only a slot can make it happen here.
+void TestStoreFiles::keepsWhatStandsBeforeAnError()
+{
+    const QString base = m_host->write(s("%1 a.hsxb"), baseFile(""));
+    m_store->assignShortcut(c, s("Z"), s("C"));
+    connect(m_store.get(), &QvelShortcutManager::shortcutsCleared, this, [this] {
+        m_host->write(s("%1 a.hsxb"),
+                      "<VelHotkeys><Hotkey Shortcut='A' Id='1-a'/>\n<Hotkey></VelHotkeys>");
+    });
+    m_recorder->take();
+    QVERIFY(!m_store->loadShortcuts(base));
+    // The values stand one place later than their labels say. The "%1" of the path is the lowest
+    // placeholder once the path is in, and takes the error's text.
+    const QString offset = s("%1").arg(TestHost::read(base).size());
+    QCOMPARE(m_recorder->takeLines().last(),
+             s("Error: Loading of hotkey configuration file failed!\n")
+                     + QString(base).replace(s("%1"), s("Opening and ending tag mismatch."))
+                     + s(" Line: 2 Column: 21 Offset: ") + offset);
+    QCOMPARE(m_store->getShortcutsFromActionId(a), s("A"));
+
+    const QString set = m_host->write(s("a.hsx"), setFile(""));
+    m_store->assignShortcut(c, s("Z"), s("C"));
+    connect(m_store.get(), &QvelShortcutManager::shortcutTransformsCleared, this, [this] {
+        m_host->write(s("a.hsx"), "<VelHotkeyTransformations><Assign_Hotkey Shortcut='B' "
+                                  "Id='1-a'/>\n<Assign_Hotkey");
+    });
+    m_recorder->take();
+    QVERIFY(!m_store->loadShortcutTransforms(set));
+    QCOMPARE(m_recorder->takeLines().last(),
+             s("Error: Loading of transform file failed!\n%1 Line: Premature end of document. "
+               "Column: 2 Offset: 14")
+                     .arg(set));
+    QCOMPARE(m_store->currentTransformations().size(), std::size_t(1));
+    QCOMPARE(m_store->getShortcutsFromActionId(a), s("A, B"));
+}
+
+void TestStoreFiles::tellsOfSavedFileThatDoesNotConform()
+{
+    connect(m_store.get(), &QvelShortcutManager::shortcutsUnModified, this,
+            [this] { m_host->write(s("a.hsx"), "<Odd/>"); });
+    m_store->assignShortcut(a, s("A"), s("A"));
+    QTest::ignoreMessage(QtDebugMsg, "Generated transformation file doesn't conform to the schema "
+                                     "defined in HotkeyTransformationSchema.xsd.");
+    QVERIFY(m_store->saveShortcutTransforms(m_host->path(s("a.hsx"))));
 }
 
 void TestStoreFiles::refusesHotkeysThatXmlCannotHold()
@@ -374,11 +449,22 @@ void TestStoreFiles::acceleratorsMoveHotkeys()
 {
     m_host->paths()->baseFiles =
             QStringList{m_host->write(s("1.hsxb"), baseFile("<Hotkey Shortcut='A' Id='1-a'/>"))};
-    m_host->registry()->accelerators = {{b, s("A")}};
+    m_host->registry()->accelerators = {{b, s("A")}, {c, s("1")}, {c, s("2")}, {c, s("3")},
+                                        {c, s("4")}, {c, s("5")}, {c, s("6")}, {c, s("7")}};
     m_store->loadShortcutConfiguration(QString());
+    QCOMPARE(m_store->getShortcutsFromActionId(c), s("1, 2, 3, 4, 5, 6")); // no seventh
     QVERIFY(m_store->getBaseShortcutsFromActionId(a).isEmpty());
     QCOMPARE(m_store->getBaseShortcutsFromActionId(b), s("A"));
     QCOMPARE(m_store->getShortcutsFromActionId(b), s("A"));
+}
+
+// The user took the hotkey away; a base file that gives it to another still takes it from the base.
+void TestStoreFiles::acceleratorsMoveHotkeysThatOnlyTheBaseHas()
+{
+    m_store->loadShortcuts(m_host->write(s("1.hsxb"), baseFile("<Hotkey Shortcut='A' Id='1-a'/>")));
+    m_store->unassignShortcut(a, s("A"), s("A"));
+    QCOMPARE(m_store->getBaseShortcutsFromActionId(a), s("A"));
+    QVERIFY(m_store->getActionIdFromShortcut(s("A"), 5).isEmpty());
 }
 
 void TestStoreFiles::loadsCurrentConfiguration()
@@ -395,6 +481,17 @@ void TestStoreFiles::loadsWithoutHost()
     CUI::IPathManager::set(none);
     m_store->loadCurrentShortcutConfiguration();
     QCOMPARE(m_recorder->take(), QStringList({s("aboutToLoad "), s("loaded ")}));
+
+    std::unique_ptr<CUI::ICuiActionManager> noRegistry;
+    CUI::ICuiActionManager::set(noRegistry);
+    const QString set =
+            m_host->write(s("a.hsx"), setFile("<Assign_Hotkey Shortcut='A' Id='1-a'/>"
+                                              "<Assign_Hotkey Shortcut='A' Id='9-x'/>"));
+    m_store->loadShortcutConfiguration(set);
+    QCOMPARE(m_store->getShortcuts().size(), std::size_t(2)); // nobody knows of a conflict
+    m_store->applyTransforms();
+    m_store->saveShortcuts(m_host->path(s("a.hsxb")));
+    QVERIFY(!TestHost::read(m_host->path(s("a.hsxb"))).contains("Description"));
 }
 
 void TestStoreFiles::survivesFailingFiles()

@@ -1,3 +1,4 @@
+#include "FullDisk.h"
 #include "TestHost.h"
 
 #include <UiCustomizations/QvelFileMessageLogger.h>
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void fileLoggerReplacesOldFile();
     void fileLoggerOpensLate();
     void fileLoggerWithoutFolderKeepsTrying();
+    void fileLoggerWritesOnAfterFailure();
+    void fileLoggerWithoutPathIsSilent();
 
 private:
     QString logged(int type);
@@ -142,6 +145,31 @@ void TestMessageLog::fileLoggerWithoutFolderKeepsTrying()
     QVERIFY(QDir(host.path(QString())).mkdir(QStringLiteral("later")));
     logger.logMessage(QStringLiteral("kept"));
     QCOMPARE(TestHost::read(host.paths()->logFile), QByteArray("kept\n"));
+}
+
+void TestMessageLog::fileLoggerWritesOnAfterFailure()
+{
+    TestHost host;
+    host.paths()->logFile = host.path(QStringLiteral("log.txt"));
+    QvelFileMessageLogger logger;
+    logger.logMessage(QStringLiteral("one"));
+    {
+        const FullDisk disk(4);
+        logger.logMessage(QStringLiteral("lost"));
+    }
+    logger.logMessage(QStringLiteral("two"));
+    QCOMPARE(TestHost::read(host.paths()->logFile), QByteArray("one\ntwo\n"));
+}
+
+void TestMessageLog::fileLoggerWithoutPathIsSilent()
+{
+    static int warnings = 0;
+    const QtMessageHandler before = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &) { ++warnings; });
+    QvelFileMessageLogger logger;
+    logger.logMessage(QStringLiteral("nowhere to go"));
+    qInstallMessageHandler(before);
+    QCOMPARE(warnings, 0);
 }
 
 QTEST_GUILESS_MAIN(TestMessageLog)

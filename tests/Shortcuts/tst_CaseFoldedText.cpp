@@ -27,9 +27,11 @@ void TestCaseFoldedText::meetsWhatTheComparisonMeets()
         ++folding;
         const CaseFoldedText text{QStringLiteral("Ctrl+") + QString::fromUcs4(&codePoint, 1)};
         const CaseFoldedText other{QStringLiteral("cTRL+") + QString::fromUcs4(&folded, 1)};
-        QCOMPARE(text == other, text.text.size() == other.text.size()
-                                        && text.text.compare(other.text, Qt::CaseInsensitive) == 0);
-        if (text == other)
+        // Only texts of one length are equal; a folding can leave the basic plane.
+        const bool expected = text.text.size() == other.text.size();
+        QCOMPARE(text == other, expected);
+        QCOMPARE(QStringList(other.text).contains(text.text, Qt::CaseInsensitive), expected);
+        if (expected)
             QCOMPARE(CaseFoldedTextHash()(text), CaseFoldedTextHash()(other));
     }
     QVERIFY(folding > 1000);

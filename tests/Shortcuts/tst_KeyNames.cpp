@@ -4,11 +4,21 @@
 
 using CUI::QvelShortcutManager;
 
+namespace {
+
+QString s(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+} // namespace
+
 class TestKeyNames : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void namedKeys();
     void toVirtualKey_data();
     void toVirtualKey();
     void fromVirtualKey_data();
@@ -16,6 +26,31 @@ private Q_SLOTS:
     void punctuation();
     void keypadName();
 };
+
+// Every named key, in both directions.
+void TestKeyNames::namedKeys()
+{
+    QVector<QPair<QString, int>> keys{
+            {s("Esc"), 0x1B},   {s("Tab"), 0x09},    {s("Backspace"), 0x08}, {s("Enter"), 0x0D},
+            {s("Ins"), 0x2D},   {s("Del"), 0x2E},    {s("Home"), 0x24},      {s("End"), 0x23},
+            {s("Left"), 0x25},  {s("Up"), 0x26},     {s("Right"), 0x27},     {s("Down"), 0x28},
+            {s("PgUp"), 0x21},  {s("PgDown"), 0x22}, {s("CapsLock"), 0x14},  {s("Space"), 0x20},
+            {s("Num+*"), 0x6A}, {s("Num++"), 0x6B},  {s("Num+-"), 0x6D},     {s("Num+."), 0x6E},
+            {s("Num+/"), 0x6F}};
+    for (int i = 2; i <= 12; ++i)
+        keys.append({s("F%1").arg(i), 0x70 + i - 1});
+    for (int i = 0; i <= 9; ++i)
+        keys.append({s("Num+%1").arg(i), 0x60 + i});
+    QCOMPARE(keys.size(), 42);
+    for (const auto &[text, expected] : keys) {
+        int virtualKey = 0;
+        int flags = 0;
+        QVERIFY2(QvelShortcutManager::keySequenceToVirtualKey(text, virtualKey, flags),
+                 qPrintable(text));
+        QCOMPARE(virtualKey, expected);
+        QCOMPARE(QvelShortcutManager::virtualKeyToStr(expected, 1), text);
+    }
+}
 
 void TestKeyNames::toVirtualKey_data()
 {

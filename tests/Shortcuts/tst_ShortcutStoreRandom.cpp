@@ -5,6 +5,7 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <map>
 #include <random>
 
@@ -15,9 +16,8 @@ namespace {
 
 using PlainMap = std::map<ActionIdentifier, QStringList>;
 
-/// The conflict rule evaluated from scratch: it scans all entries for the holder of a hotkey. Of
-/// several holders the store prefers the oldest; the random texts are all of one letter case, so
-/// that there is never more than one.
+/// The conflict rule evaluated from scratch: it scans all entries, in the order of the identifiers,
+/// for the holder of a hotkey.
 class PlainStore
 {
 public:
@@ -33,7 +33,7 @@ public:
         const ActionIdentifier holder = owner(shortcut, action->contextId());
         if (!holder.isEmpty() && holder != id)
             unassign(holder, shortcut);
-        if (!current[id].contains(shortcut))
+        if (!current[id].contains(shortcut, Qt::CaseInsensitive))
             current[id] << shortcut;
     }
 
@@ -50,7 +50,8 @@ public:
     {
         for (const auto &[id, list] : current) {
             const CUI::VelAction *action = m_registry.getAction(id);
-            if (action != nullptr && action->contextId() == context && list.contains(shortcut))
+            if (action != nullptr && action->contextId() == context
+                && list.contains(shortcut, Qt::CaseInsensitive))
                 return id;
         }
         return {};
@@ -75,11 +76,18 @@ class TestShortcutStoreRandom : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { CUI::QvelMessageLog::getInstance().setMessageLogLevel({}); }
+    void cleanup()
+    {
+        CUI::QvelMessageLog::getInstance().setMessageLogLevel(CUI::QvelMessageLog::Warning);
+    }
     void equalsPlainRule();
+    void standsSlotsThatEdit();
 
 private:
     const QStringList m_keys =
-            QStringLiteral("A B C D E F G H Ctrl+A Ctrl+B Num+1 F5 ß ſ é").split(QLatin1Char(' '));
+            QStringLiteral("A a B C D E F G H Ctrl+A ctrl+a Num+1 F5 ß ẞ ss ſ s é É")
+                    .split(QLatin1Char(' '));
 };
 
 void TestShortcutStoreRandom::equalsPlainRule()
@@ -91,7 +99,6 @@ void TestShortcutStoreRandom::equalsPlainRule()
         if (i < 22) // two stay unknown
             host.registry()->addAction(ids.back(), QString::number(i), i % 3, QString(), false);
     }
-    CUI::QvelMessageLog::getInstance().setMessageLogLevel(CUI::QvelMessageLog::MessageType(0));
     QvelShortcutManager store;
     PlainStore expected(*host.registry());
     std::mt19937 random(7);
@@ -121,9 +128,77 @@ void TestShortcutStoreRandom::equalsPlainRule()
         QVERIFY(plain(store.getShortcuts()) == expected.current);
         for (unsigned long context = 0; context < 3; ++context)
             QCOMPARE(store.getActionIdFromShortcut(key, context), expected.owner(key, context));
-        QCOMPARE(store.isUserModified(), !store.currentTransformations().empty());
+        const auto &steps = store.currentTransformations();
+        QCOMPARE(store.isUserModified(), !steps.empty());
+        QCOMPARE(store.isUserModifiedShortcut(id, key),
+                 std::any_of(steps.begin(), steps.end(), [&](const auto &step) {
+                     return step.actionId() == id && step.shortcut() == key;
+                 }));
+        QCOMPARE(store.isUserModifiedAction(id),
+                 std::any_of(steps.begin(), steps.end(),
+                             [&](const auto &step) { return step.actionId() == id; }));
+        const auto base = expected.base.find(id);
+        QCOMPARE(store.getBaseShortcutsFromActionId(id),
+                 base == expected.base.end() ? QString() : base->second.join(QStringLiteral(", ")));
     }
-    CUI::QvelMessageLog::getInstance().setMessageLogLevel(CUI::QvelMessageLog::Warning);
+}
+
+// Every signal makes a slot edit the store again, three levels deep.
+void TestShortcutStoreRandom::standsSlotsThatEdit()
+{
+    TestHost host;
+    std::vector<ActionIdentifier> ids;
+    for (unsigned i = 0; i < 6; ++i) {
+        ids.push_back({1, QStringLiteral("action%1").arg(i)});
+        host.registry()->addAction(ids.back(), QString::number(i), i % 2, QString(), false);
+    }
+    QvelShortcutManager store;
+    std::mt19937 random(11);
+    const auto below = [&random](unsigned limit) { return unsigned(random()) % limit; };
+    int depth = 0;
+    const auto edit = [&] {
+        if (depth == 3)
+            return;
+        ++depth;
+        const ActionIdentifier &id = ids[below(6)];
+        const QString &key = m_keys.at(int(below(8)));
+        switch (below(12)) {
+        case 0:
+            store.clearTransforms();
+            break;
+        case 1:
+            store.applyTransforms();
+            break;
+        case 2:
+            store.clearShortcuts();
+            break;
+        case 3:
+            store.saveShortcutTransforms(host.path(QStringLiteral("a.hsx")));
+            break;
+        case 4:
+            store.collapseTransforms(0);
+            break;
+        default:
+            below(2) == 0 ? store.assignShortcut(id, key, QString())
+                          : store.unassignShortcut(id, key, QString());
+        }
+        --depth;
+    };
+    connect(&store, &QvelShortcutManager::shortcutAssigned, this, edit);
+    connect(&store, &QvelShortcutManager::shortcutUnassigned, this, edit);
+    connect(&store, &QvelShortcutManager::shortcutTransformAdded, this, edit);
+    connect(&store, &QvelShortcutManager::shortcutTransformsCollapsed, this, edit);
+    connect(&store, &QvelShortcutManager::shortcutsModified, this, edit);
+    connect(&store, &QvelShortcutManager::shortcutsUnModified, this, edit);
+    for (int round = 0; round < 300; ++round) {
+        edit();
+        PlainStore plainStore(*host.registry());
+        plainStore.current = plain(store.getShortcuts());
+        for (const QString &key : m_keys)
+            QCOMPARE(store.getActionIdFromShortcut(key, 1), plainStore.owner(key, 1));
+        for (const auto &[id, list] : store.getShortcuts())
+            QVERIFY(!list.isEmpty() && list.size() <= 6);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestShortcutStoreRandom)
