@@ -1,0 +1,48 @@
+#pragma once
+
+#include <UiCustomizations/ActionIdentifier.h>
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace Host {
+
+/// What a host directory says about the application: its contexts, its actions, and which of the
+/// shipped hotkey sets is in use until the user chooses another.
+struct HostCatalogue {
+    struct Context {
+        unsigned long id = 0;
+        QString name;
+    };
+
+    struct Action {
+        CUI::ActionIdentifier identifier;
+        QString name;
+        unsigned long contextId = 0;
+        QString category;
+        bool momentary = false;
+        QStringList accelerators;
+    };
+
+    /// The file name of the default set in the directory of the shipped sets; empty when the
+    /// host ships none.
+    QString defaultSet;
+    /// In the order of the file, each with an id of its own.
+    std::vector<Context> contexts;
+    /// In the order of the file, each with an identifier of its own and a context that exists.
+    std::vector<Action> actions;
+
+    /// Reads the JSON text of a catalogue. Nothing when anything in it is wrong; @p error then
+    /// holds one line with @p fileName, the place and the reason.
+    static std::optional<HostCatalogue> parse(const QByteArray &json, const QString &fileName,
+                                              QString &error);
+
+    /// Reads a catalogue file likewise. Only a regular file of at most 16 MiB is read.
+    static std::optional<HostCatalogue> load(const QString &path, QString &error);
+};
+
+} // namespace Host

@@ -1,0 +1,23 @@
+#include "Commands.h"
+
+#include <QCommandLineParser>
+
+namespace HotkeyCtl {
+
+std::optional<QString> optionValue(const QCommandLineParser &line, const QString &option)
+{
+    if (!line.isSet(option))
+        return {};
+    return line.value(option);
+}
+
+const std::vector<Command> &commands()
+{
+    static const std::vector<Command> all = {
+            listCommand(),  ownerCommand(), assignCommand(),   unassignCommand(),
+            stepsCommand(), baseCommand(),  validateCommand(),
+    };
+    return all;
+}
+
+} // namespace HotkeyCtl

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Command.h"
+
+#include <vector>
+
+namespace HotkeyCtl {
+
+Command listCommand();
+Command ownerCommand();
+Command assignCommand();
+Command unassignCommand();
+Command stepsCommand();
+Command baseCommand();
+Command validateCommand();
+
+/// All commands, in the order in which the help lists them.
+const std::vector<Command> &commands();
+
+} // namespace HotkeyCtl

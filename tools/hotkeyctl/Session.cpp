@@ -1,0 +1,187 @@
+#include "Session.h"
+
+#include "SampleHost.h"
+#include "TextOutput.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace HotkeyCtl {
+
+namespace {
+
+QStringList valueOf(const std::unordered_map<CUI::ActionIdentifier, CUI::QShortcutsList> &shortcuts,
+                    const CUI::ActionIdentifier &identifier)
+{
+    const auto found = shortcuts.find(identifier);
+    if (found == shortcuts.end())
+        return {};
+    return found->second;
+}
+
+} // namespace
+
+Session::Session(const SessionOptions &options, QTextStream &out, QTextStream &err)
+    : m_options(options), m_out(out), m_err(err), m_log(err, options.logLevel)
+{
+}
+
+Session::~Session() = default;
+
+ExitCode Session::problem(const QString &text) const
+{
+    m_err << "hotkeyctl: " << printable(text) << '\n';
+    return ExitCode::Problem;
+}
+
+ExitCode Session::wrongUsage(const QString &text) const
+{
+    m_err << "hotkeyctl: " << printable(text) << '\n'
+          << "Try 'hotkeyctl " << m_options.command << " --help'.\n";
+    return ExitCode::WrongUsage;
+}
+
+// Loading
+
+Session::Loading Session::load()
+{
+    if (!openHost())
+        return Loading::Failed;
+    const bool hasBase = loadBaseFiles();
+    const bool hasSet = loadSet();
+    if (!hasSet && m_options.set)
+        return Loading::Failed;
+    return hasBase && hasSet ? Loading::Complete : Loading::Incomplete;
+}
+
+bool Session::loadBase()
+{
+    return openHost() && loadBaseFiles();
+}
+
+bool Session::openHost()
+{
+    m_host = std::make_unique<Host::SampleHost>(m_options.hostDirectory, m_options.userDirectory,
+                                                Host::HostPathManager::Record::InMemory);
+    if (m_host->load())
+        return true;
+    problem(m_host->errorText());
+    return false;
+}
+
+bool Session::loadBaseFiles()
+{
+    bool complete = true;
+    for (const QString &path : m_host->paths()->getBaseHotkeyFiles()) {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly)) {
+            problem(QStringLiteral("%1: cannot be opened: %2").arg(path, file.errorString()));
+            complete = false;
+        }
+    }
+    const int errorsBefore = m_log.errorCount();
+    // The current set is loaded apart, because only loading a set alone tells whether it worked.
+    const QString currentSet =
+            m_host->paths()->getCurrentConfigurationFile(CUI::ConfigType::HotkeySet);
+    m_store.loadShortcutConfiguration(QString());
+    m_host->paths()->setCurrentConfigurationFile(CUI::ConfigType::HotkeySet, currentSet);
+    m_base = m_store.getShortcuts();
+    if (m_log.errorCount() > errorsBefore) {
+        problem(QStringLiteral("a base file cannot be loaded: %1")
+                        .arg(m_log.lastError().simplified()));
+        complete = false;
+    }
+    return complete;
+}
+
+bool Session::loadSet()
+{
+    const QString path =
+            m_options.set
+                    ? *m_options.set
+                    : m_host->paths()->getCurrentConfigurationFile(CUI::ConfigType::HotkeySet);
+    if (path.isEmpty())
+        return true;
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        problem(QStringLiteral("%1: the hotkey set cannot be opened").arg(path));
+        return false;
+    }
+    if (m_store.loadShortcutTransforms(path))
+        return true;
+    problem(QStringLiteral("%1: the hotkey set cannot be loaded").arg(path));
+    return false;
+}
+
+// The catalogue
+
+const Host::HostCatalogue &Session::catalogue() const
+{
+    return m_host->catalogue();
+}
+
+QString Session::presetDirectory() const
+{
+    return m_host->paths()->getDefaultPresetDirectory();
+}
+
+QStringList Session::hotkeys(const CUI::ActionIdentifier &identifier) const
+{
+    return valueOf(m_store.getShortcuts(), identifier);
+}
+
+QStringList Session::baseHotkeys(const CUI::ActionIdentifier &identifier) const
+{
+    return valueOf(m_base, identifier);
+}
+
+const Host::HostCatalogue::Action *Session::findAction(const QString &text) const
+{
+    const auto &actions = catalogue().actions;
+    const auto found = std::find_if(actions.begin(), actions.end(),
+                                    [&text](const Host::HostCatalogue::Action &action) {
+                                        return action.identifier.toString() == text;
+                                    });
+    return found == actions.end() ? nullptr : &*found;
+}
+
+QString Session::describe(const CUI::ActionIdentifier &identifier) const
+{
+    const Host::HostCatalogue::Action *action = findAction(identifier.toString());
+    return QStringLiteral("%1 (%2)").arg(printable(action == nullptr ? QString() : action->name),
+                                         printable(identifier.toString()));
+}
+
+QString Session::contextName(unsigned long contextId) const
+{
+    for (const Host::HostCatalogue::Context &context : catalogue().contexts) {
+        if (context.id == contextId)
+            return context.name;
+    }
+    return {};
+}
+
+std::optional<std::vector<Host::HostCatalogue::Context>> Session::contextsNamed(
+        const std::optional<QString> &name) const
+{
+    const auto &all = catalogue().contexts;
+    if (!name)
+        return all;
+    std::vector<Host::HostCatalogue::Context> matching;
+    QStringList names;
+    for (const Host::HostCatalogue::Context &context : all) {
+        names << context.name;
+        if (context.name == *name)
+            matching.push_back(context);
+    }
+    if (!matching.empty())
+        return matching;
+    problem(QStringLiteral("there is no context '%1'; there are: %2")
+                    .arg(*name, names.join(QLatin1String(", "))));
+    return {};
+}
+
+} // namespace HotkeyCtl

@@ -1,0 +1,80 @@
+#include "SetEditing.h"
+
+#include "HotkeyText.h"
+#include "OutputFile.h"
+#include "TextOutput.h"
+
+#include <QCommandLineParser>
+#include <QTextStream>
+
+namespace HotkeyCtl::SetEditing {
+
+namespace {
+
+const QString save = QStringLiteral("save");
+
+/// What is wrong with the target, told; Done when nothing is.
+ExitCode checkTarget(const Session &session, const QString &path)
+{
+    const QString reason = reasonAgainstReplacingSet(path, session.presetDirectory());
+    if (reason.isEmpty())
+        return ExitCode::Done;
+    return session.problem(QStringLiteral("%1: is not written, because %2").arg(path, reason));
+}
+
+} // namespace
+
+QCommandLineOption saveOption()
+{
+    return {save, QStringLiteral("Save the resulting set as FILE; a dry run without it."),
+            QStringLiteral("FILE")};
+}
+
+QString heldSpelling(const QStringList &hotkeys, const QString &shortcut)
+{
+    for (const QString &hotkey : hotkeys) {
+        if (hotkey.compare(shortcut, Qt::CaseInsensitive) == 0)
+            return hotkey;
+    }
+    return {};
+}
+
+ExitCode run(const QCommandLineParser &line, Session &session, Accepts accepts, const Edit &edit)
+{
+    const QString idText = line.positionalArguments().at(0);
+    const QString hotkeyText = line.positionalArguments().at(1);
+    QString reason;
+    std::optional<QString> shortcut = Host::canonicalHotkey(hotkeyText.trimmed(), reason);
+    if (!shortcut && accepts == Accepts::Hotkeys)
+        return session.wrongUsage(reason);
+    const std::optional<QString> target = optionValue(line, save);
+    if (target && target->isEmpty())
+        return session.wrongUsage(QStringLiteral("--save needs the name of a file"));
+
+    // Saved on top of half a configuration, the edit would come out as another one later.
+    if (session.load() != Session::Loading::Complete)
+        return session.problem(QStringLiteral("nothing was changed"));
+    const Host::HostCatalogue::Action *action = session.findAction(idText);
+    if (action == nullptr)
+        return session.problem(QStringLiteral("there is no action '%1'").arg(idText));
+    if (!shortcut && session.hotkeys(action->identifier).contains(hotkeyText))
+        shortcut = hotkeyText;
+    if (!shortcut)
+        return session.wrongUsage(reason);
+    if (target && checkTarget(session, *target) != ExitCode::Done)
+        return ExitCode::Problem;
+
+    const Report report = edit(session, *action, *shortcut);
+    if (!report)
+        return ExitCode::Problem;
+    if (target && !session.store().saveShortcutTransforms(*target))
+        return session.problem(QStringLiteral("%1: cannot be written").arg(*target));
+    session.out() << *report;
+    if (target)
+        session.out() << "Saved as " << printable(*target) << ".\n";
+    else
+        session.out() << "Dry run: nothing was saved. --save FILE saves the set.\n";
+    return ExitCode::Done;
+}
+
+} // namespace HotkeyCtl::SetEditing

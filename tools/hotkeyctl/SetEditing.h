@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Command.h"
+#include "Session.h"
+
+#include <functional>
+
+namespace HotkeyCtl {
+
+/// What assign and unassign have in common: an edit of one action, on top of the loaded set, that
+/// is saved as a new set or only shown.
+namespace SetEditing {
+
+/// The text of what an edit did, or nothing when it told a problem instead.
+using Report = std::optional<QString>;
+using Edit = std::function<Report(Session &session, const Host::HostCatalogue::Action &action,
+                                  const QString &shortcut)>;
+
+/// Which texts the edit takes as a hotkey.
+enum class Accepts {
+    Hotkeys, ///< one key combination
+    HeldTexts, ///< that, and any text that the action holds, whether or not a keyboard has the key
+};
+
+/// Loads everything, makes the edit, saves and reports; the arguments are ID SHORTCUT.
+ExitCode run(const QCommandLineParser &line, Session &session, Accepts accepts, const Edit &edit);
+
+/// The option --save FILE.
+QCommandLineOption saveOption();
+
+/// The hotkey of the list that equals @p shortcut without regard to letter case; null when none.
+QString heldSpelling(const QStringList &hotkeys, const QString &shortcut);
+
+} // namespace SetEditing
+
+} // namespace HotkeyCtl
