@@ -1,0 +1,82 @@
+#include "QvelMessageLogWidget.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPointer>
+#include <QScrollBar>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace CUI {
+
+namespace {
+
+bool isClearKey(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_D && event.modifiers().testFlag(Qt::ControlModifier);
+}
+
+} // namespace
+
+QvelMessageLogWidget::QvelMessageLogWidget(QWidget *parent) : QTextEdit(parent)
+{
+    setReadOnly(true);
+}
+
+QvelMessageLogWidget::~QvelMessageLogWidget() = default;
+
+bool QvelMessageLogWidget::event(QEvent *event)
+{
+    // Accepted at this stage, the keys never become a shortcut of the application.
+    if (event->type() == QEvent::ShortcutOverride && isClearKey(*static_cast<QKeyEvent *>(event))) {
+        clear();
+        event->accept();
+        return true;
+    }
+    return QTextEdit::event(event);
+}
+
+void QvelMessageLogWidget::append(const QString &line)
+{
+    const QScrollBar *scrollBar = verticalScrollBar();
+    const bool wasAtEnd = scrollBar->value() >= scrollBar->maximum();
+
+    QTextCursor end(document());
+    end.movePosition(QTextCursor::End);
+    end.beginEditBlock();
+    if (!document()->isEmpty())
+        end.insertBlock();
+    end.insertText(QString(line).replace(QLatin1Char('\n'), QChar(QChar::LineSeparator)));
+    end.endEditBlock();
+
+    if (wasAtEnd)
+        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+void QvelMessageLogWidget::contextMenuEvent(QContextMenuEvent *event)
+{
+    // The menu goes with the widget, should that be deleted while the menu is open.
+    const QPointer<QMenu> menu = new QMenu(this);
+    QAction *copyAction =
+            menu->addAction(tr("Copy"), this, &QTextEdit::copy, QKeySequence(QKeySequence::Copy));
+    QAction *selectAllAction = menu->addAction(tr("Select All"), this, &QTextEdit::selectAll,
+                                               QKeySequence(QKeySequence::SelectAll));
+    menu->addSeparator();
+    QAction *clearAction = menu->addAction(tr("Clear Log"), this, &QTextEdit::clear,
+                                           QKeySequence(int{Qt::CTRL} | Qt::Key_D));
+
+    const bool isEmpty = document()->isEmpty();
+    copyAction->setEnabled(textCursor().hasSelection());
+    selectAllAction->setEnabled(!isEmpty);
+    clearAction->setEnabled(!isEmpty);
+    const QList<QAction *> actions = menu->actions();
+    for (QAction *action : actions)
+        action->setShortcutVisibleInContextMenu(true);
+
+    menu->exec(event->globalPos());
+    delete menu.data();
+}
+
+} // namespace CUI

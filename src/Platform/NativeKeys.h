@@ -1,0 +1,21 @@
+#pragma once
+
+class QKeyEvent;
+
+namespace CUI {
+
+/// Which key of the keyboard was pressed, whatever the modifiers made of it. Windows virtual keys
+/// name them; other systems are translated to these.
+namespace NativeKeys {
+
+/// The Windows virtual key of the pressed key, 0 when it is not known. Digits, letters,
+/// punctuation, Alt and, while they type numbers, the keys of the keypad are known everywhere,
+/// others on some systems.
+int virtualKeyOf(const QKeyEvent &event);
+
+/// The character that the key of @p event types without modifiers, as a Qt key code; 0 when it is
+/// not known. @p virtualKey is that key's, one of the punctuation keys 186 to 223.
+int unshiftedCharacterOf(int virtualKey, const QKeyEvent &event);
+
+} // namespace NativeKeys
+} // namespace CUI

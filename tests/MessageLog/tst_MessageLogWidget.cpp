@@ -1,0 +1,247 @@
+#include <UiCustomizations/QvelMessageLog.h>
+#include <UiCustomizations/QvelMessageLogWidget.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextDocumentFragment>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <functional>
+
+using CUI::QvelMessageLog;
+using CUI::QvelMessageLogWidget;
+
+namespace {
+
+QString s(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+const QPoint menuPlace(40, 30);
+
+/// Opens the context menu as a right click does and hands it to @p use while it is open; closes it
+/// if that did not. False when no menu came up.
+bool openMenu(QvelMessageLogWidget &log, const std::function<void(QMenu &)> &use)
+{
+    bool came = false;
+    QTimer::singleShot(0, qApp, [&] {
+        const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        came = !menu.isNull();
+        if (came)
+            use(*menu);
+        if (menu)
+            menu->close();
+    });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), menuPlace);
+    QCoreApplication::sendEvent(log.viewport(), &event);
+    return came;
+}
+
+QStringList describe(const QMenu &menu)
+{
+    QStringList entries;
+    for (const QAction *action : menu.actions()) {
+        if (action->isSeparator())
+            entries << s("-");
+        else
+            entries << s("%1 (%2) %3")
+                               .arg(action->text(), action->shortcut().toString(),
+                                    action->isEnabled() ? s("on") : s("off"));
+    }
+    return entries;
+}
+
+} // namespace
+
+class TestMessageLogWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void clearsByKey_data();
+    void clearsByKey();
+    void menuShowsWhatCanBeDone_data();
+    void menuShowsWhatCanBeDone();
+    void menuEntriesWork();
+    void menuGoesWithTheWidget();
+    void appendsLoggedLinesAsPlainParagraphs();
+    void followsItsEnd();
+};
+
+void TestMessageLogWidget::clearsByKey_data()
+{
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("cleared");
+    QTest::newRow("Ctrl+D") << int(Qt::CTRL) << int(Qt::Key_D) << true;
+    QTest::newRow("Ctrl+Shift+D") << int(Qt::CTRL | Qt::SHIFT) << int(Qt::Key_D) << true;
+    QTest::newRow("Ctrl+Alt+Meta+D")
+            << int(Qt::CTRL | Qt::ALT | Qt::META) << int(Qt::Key_D) << true;
+    QTest::newRow("D") << 0 << int(Qt::Key_D) << false;
+    QTest::newRow("Alt+D") << int(Qt::ALT) << int(Qt::Key_D) << false;
+    QTest::newRow("Ctrl+E") << int(Qt::CTRL) << int(Qt::Key_E) << false;
+}
+
+void TestMessageLogWidget::clearsByKey()
+{
+    QFETCH(int, modifiers);
+    QFETCH(int, key);
+    QFETCH(bool, cleared);
+    QWidget window;
+    QvelMessageLogWidget log(&window);
+    QPushButton other(&window);
+    QVBoxLayout layout(&window);
+    layout.addWidget(&log);
+    layout.addWidget(&other);
+    // The application has given the same keys away, twice even.
+    QShortcut shortcut(QKeySequence(modifiers + key), &window, nullptr, nullptr,
+                       Qt::ApplicationShortcut);
+    QAction action;
+    action.setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_D));
+    action.setShortcutContext(Qt::ApplicationShortcut);
+    other.addAction(&action);
+    QSignalSpy fired(&shortcut, &QShortcut::activated);
+    QSignalSpy ambiguous(&shortcut, &QShortcut::activatedAmbiguously);
+    QSignalSpy triggered(&action, &QAction::triggered);
+    const auto firings = [&] { return fired.count() + ambiguous.count() + triggered.count(); };
+    log.append(s("line"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+
+    const auto press = [&] {
+        QTest::keyClick(window.windowHandle(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    };
+    log.setFocus();
+    QCOMPARE(QApplication::focusWidget(), &log);
+    press();
+    QCOMPARE(log.toPlainText(), cleared ? QString() : s("line"));
+    QCOMPARE(firings(), cleared ? 0 : 1);
+
+    other.setFocus();
+    log.setPlainText(s("line"));
+    press();
+    QCOMPARE(log.toPlainText(), s("line"));
+    QCOMPARE(firings(), cleared ? 1 : 2);
+}
+
+void TestMessageLogWidget::menuShowsWhatCanBeDone_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("selected");
+    QTest::addColumn<QStringList>("entries");
+    const auto entries = [](const char *copy, const char *others) {
+        return QStringList({s("Copy (Ctrl+C) ") + s(copy), s("Select All (Ctrl+A) ") + s(others),
+                            s("-"), s("Clear Log (Ctrl+D) ") + s(others)});
+    };
+    QTest::newRow("empty") << "" << true << entries("off", "off");
+    QTest::newRow("text") << "line" << false << entries("off", "on");
+    QTest::newRow("selection") << "line" << true << entries("on", "on");
+}
+
+void TestMessageLogWidget::menuShowsWhatCanBeDone()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, selected);
+    QvelMessageLogWidget log;
+    log.append(text);
+    if (selected)
+        log.selectAll();
+    log.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&log));
+
+    QCoreApplication::setAttribute(Qt::AA_DontShowShortcutsInContextMenus, true);
+    QStringList entries;
+    QPoint place;
+    bool shortcutsVisible = true;
+    QVERIFY(openMenu(log, [&](QMenu &menu) {
+        entries = describe(menu);
+        place = menu.pos();
+        for (const QAction *action : menu.actions())
+            shortcutsVisible = shortcutsVisible && action->isShortcutVisibleInContextMenu();
+    }));
+    QCoreApplication::setAttribute(Qt::AA_DontShowShortcutsInContextMenus, false);
+    QTEST(entries, "entries");
+    QCOMPARE(place, menuPlace);
+    QVERIFY(shortcutsVisible);
+    QVERIFY(log.findChildren<QMenu *>().isEmpty());
+    QCOMPARE(log.toPlainText(), text);
+}
+
+void TestMessageLogWidget::menuEntriesWork()
+{
+    QvelMessageLogWidget log;
+    log.append(s("one"));
+    log.append(s("two"));
+    log.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&log));
+    const auto click = [&](const char *text) {
+        return openMenu(log, [text](QMenu &menu) {
+            for (QAction *action : menu.actions()) {
+                if (action->text() == s(text))
+                    QTest::mouseClick(&menu, Qt::LeftButton, {},
+                                      menu.actionGeometry(action).center());
+            }
+        });
+    };
+    QVERIFY(click("Select All"));
+    QCOMPARE(log.textCursor().selection().toPlainText(), s("one\ntwo"));
+    QVERIFY(click("Copy"));
+    QCOMPARE(QApplication::clipboard()->text(), s("one\ntwo"));
+    QVERIFY(click("Clear Log"));
+    QVERIFY(log.document()->isEmpty());
+}
+
+void TestMessageLogWidget::menuGoesWithTheWidget()
+{
+    auto *log = new QvelMessageLogWidget;
+    QPointer<QMenu> seen;
+    log->show();
+    QVERIFY(QTest::qWaitForWindowExposed(log));
+    QVERIFY(openMenu(*log, [&](QMenu &menu) {
+        seen = &menu;
+        delete log;
+    }));
+    QVERIFY(seen.isNull());
+}
+
+void TestMessageLogWidget::appendsLoggedLinesAsPlainParagraphs()
+{
+    QvelMessageLogWidget log;
+    connect(&QvelMessageLog::getInstance(), &QvelMessageLog::messageLogged, &log,
+            &QvelMessageLogWidget::append);
+    QSignalSpy changes(&log, &QTextEdit::textChanged);
+    QvelMessageLog::getInstance().logWarningMessage(s("<b>a</b> &lt; b"));
+    QvelMessageLog::getInstance().logErrorMessage(s("failed\nLine: 7"));
+    QCOMPARE(changes.count(), 2);
+    QVERIFY(log.isReadOnly());
+    QCOMPARE(log.toPlainText(), s("Warning: <b>a</b> &lt; b\nError: failed\nLine: 7"));
+    QCOMPARE(log.document()->blockCount(), 2);
+}
+
+void TestMessageLogWidget::followsItsEnd()
+{
+    QvelMessageLogWidget log;
+    log.resize(200, 100);
+    log.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&log));
+    QScrollBar *bar = log.verticalScrollBar();
+    for (int line = 0; line < 100; ++line) {
+        log.append(QString::number(line));
+        QCOMPARE(bar->value(), bar->maximum());
+    }
+    QVERIFY(bar->maximum() > 0);
+    bar->setValue(10);
+    log.append(s("more"));
+    QCOMPARE(bar->value(), 10);
+}
+
+QTEST_MAIN(TestMessageLogWidget)
+#include "tst_MessageLogWidget.moc"
