@@ -1,0 +1,122 @@
+#include "ActionSearch.h"
+
+#include "EditorText.h"
+#include "HotkeyEditorForm.h"
+#include "QvelActionItemModel.h"
+#include "QvelSortFilterProxyModel.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTreeView>
+
+namespace CUI {
+
+ActionSearch::ActionSearch(HotkeyEditorForm &form, QvelSortFilterProxyModel *proxy, QObject *parent)
+    : QObject(parent), m_form(form), m_proxy(proxy)
+{
+}
+
+bool ActionSearch::isByHotkeys() const
+{
+    return m_proxy->filterKeyColumn() != QvelActionItemModel::ActionColumn;
+}
+
+void ActionSearch::searchByActions()
+{
+    setKeyColumn(QvelActionItemModel::ActionColumn);
+}
+
+void ActionSearch::searchByHotkeys()
+{
+    setKeyColumn(QvelActionItemModel::HotkeyColumn);
+}
+
+void ActionSearch::setKeyColumn(int column)
+{
+    // The search of the old kind ends under its own rules, whatever the field holds.
+    m_form.searchLineEdit->clear();
+    m_proxy->setFilterKeyColumn(column);
+    m_form.searchLineEdit->setAttribute(Qt::WA_InputMethodEnabled, !isByHotkeys());
+    retranslate();
+}
+
+void ActionSearch::retranslate()
+{
+    const QString placeholder =
+            isByHotkeys() ? editorText(
+                    QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Type to search by Hotkeys..."))
+                          : editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
+                                                         "Type to search by Actions..."));
+    m_form.searchLineEdit->setPlaceholderText(placeholder);
+    m_form.searchLineEdit->setAccessibleName(placeholder);
+}
+
+void ActionSearch::returnToColumnSorting()
+{
+    m_proxy->setActionSearchSorting(false);
+    m_form.keyActionsTreeView->header()->setSortIndicatorShown(true);
+}
+
+void ActionSearch::capture(const QKeyEvent &event)
+{
+    m_captured = HotkeyRecorder::capture(event);
+    m_form.searchLineEdit->setText(HotkeyRecorder::text(m_captured));
+}
+
+void ActionSearch::followText(const QString &text)
+{
+    if (isByHotkeys())
+        updateHotkeySearch(text);
+    else
+        updateActionSearch(text);
+}
+
+void ActionSearch::updateHotkeySearch(const QString &text)
+{
+    if (text.isEmpty() || m_captured.combination == 0) {
+        m_captured = {};
+        m_form.keyActionsTreeView->header()->setSortIndicatorShown(true);
+        restoreSort();
+    } else if (m_savedSortColumn < 0) {
+        saveSort();
+        m_form.keyActionsTreeView->header()->setSortIndicatorShown(true);
+        m_form.keyActionsTreeView->sortByColumn(QvelActionItemModel::HotkeyColumn,
+                                                Qt::AscendingOrder);
+    }
+    m_proxy->updateFilterString(
+            m_captured.combination == 0
+                    ? QString()
+                    : QKeySequence(m_captured.combination).toString(QKeySequence::PortableText));
+}
+
+void ActionSearch::updateActionSearch(const QString &text)
+{
+    QHeaderView *header = m_form.keyActionsTreeView->header();
+    if (text.isEmpty()) {
+        restoreSort();
+        m_proxy->setActionSearchSorting(false);
+        header->setSortIndicatorShown(true);
+    } else if (m_savedSortColumn < 0) {
+        saveSort();
+        m_proxy->setActionSearchSorting(true);
+        header->setSortIndicatorShown(false);
+        m_proxy->sort(m_proxy->sortColumn(), m_proxy->sortOrder());
+    }
+    m_proxy->updateFilterString(text);
+}
+
+void ActionSearch::saveSort()
+{
+    m_savedSortColumn = m_proxy->sortColumn();
+    m_savedSortOrder = m_proxy->sortOrder();
+}
+
+void ActionSearch::restoreSort()
+{
+    if (m_savedSortColumn < 0)
+        return;
+    m_form.keyActionsTreeView->sortByColumn(m_savedSortColumn, m_savedSortOrder);
+    m_savedSortColumn = -1;
+}
+
+} // namespace CUI

@@ -1,0 +1,325 @@
+#include "ActionSelectionPanel.h"
+
+#include "ActionListTreeItemDelegate.h"
+#include "EditorText.h"
+#include "HotkeyEditorForm.h"
+#include "QvelActionItem.h"
+#include "QvelActionItemModel.h"
+#include "QvelAssignedShortcutListItem.h"
+#include "QvelAssignedShortcutsScrollArea.h"
+#include "QvelShortcutManager.h"
+#include "VelAction.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QTextBoundaryFinder>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace CUI {
+
+ActionSelectionPanel::ActionSelectionPanel(HotkeyEditorForm &form, QvelActionItemModel *model,
+                                           QvelShortcutManager *manager,
+                                           QSortFilterProxyModel *proxy,
+                                           const ActionListTreeItemDelegate *colors,
+                                           QObject *parent)
+    : QObject(parent),
+      m_form(form),
+      m_model(model),
+      m_manager(manager),
+      m_proxy(proxy),
+      m_colors(colors)
+{
+}
+
+// Selection
+
+void ActionSelectionPanel::showRow(const QModelIndex &current)
+{
+    m_form.shortcutLineEdit->clear();
+    m_form.assignedToLabel->clear();
+    m_form.selectedActionLabel->clear();
+    clearAssignedHotkeyGroupBox();
+    m_form.assignShortcutButton->setEnabled(false);
+    m_form.removeShortcutButton->setEnabled(false);
+    const QModelIndex source = m_proxy->mapToSource(current);
+    const VelAction *action = m_model->velActionFromModelIdx(source);
+    if (action != nullptr)
+        showAction(source, *action);
+    else
+        showNoAction();
+}
+
+void ActionSelectionPanel::showAction(const QModelIndex &sourceIndex, const VelAction &action)
+{
+    m_currentAction = action.identifier();
+    describe(action, sourceIndex.sibling(sourceIndex.row(), QvelActionItemModel::GroupColumn)
+                             .data()
+                             .toString());
+    m_form.newHotkeysGroupBox->show();
+    updateSelectedActionShortcutList();
+    hideReassignControls();
+    hideAlreadyAssignedControls();
+}
+
+void ActionSelectionPanel::describe(const VelAction &action, const QString &group)
+{
+    m_form.selectedActionLabel->setText(
+            QStringLiteral("<b>%1</b> (%2)")
+                    .arg(action.name().toHtmlEscaped(), group.toHtmlEscaped()));
+    m_form.actionDescriptionLabel->setText(
+            action.momentary() ? editorText(QT_TRANSLATE_NOOP(
+                    "QvelShortcutsWidget", "Press and hold to temporarily activate."))
+                               : QString());
+    m_form.actionDescriptionLabel->setVisible(action.momentary());
+}
+
+void ActionSelectionPanel::showNoAction()
+{
+    m_form.selectedActionLabel->setText(
+            QStringLiteral("<b>%1</b>")
+                    .arg(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "No action selected"))
+                                 .toHtmlEscaped()));
+    m_form.actionDescriptionLabel->setText(editorText(QT_TRANSLATE_NOOP(
+            "QvelShortcutsWidget", "Select an action in the table to edit its hotkeys.")));
+    m_form.actionDescriptionLabel->show();
+    m_form.newHotkeysGroupBox->hide();
+}
+
+void ActionSelectionPanel::setCurrentAction(const ActionIdentifier &id, bool focus)
+{
+    if (m_model == nullptr)
+        return;
+    if (focus)
+        m_form.searchLineEdit->clear();
+    const QvelActionItem *item = m_model->itemFromVelAction(QvelActionItemModel::ActionColumn, id);
+    QItemSelectionModel *selection = m_form.keyActionsTreeView->selectionModel();
+    if (item == nullptr || selection == nullptr)
+        return;
+    selection->setCurrentIndex(m_proxy->mapFromSource(item->index()),
+                               QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (focus)
+        m_form.shortcutLineEdit->setFocus(Qt::OtherFocusReason);
+    m_currentAction = id;
+}
+
+VelAction *ActionSelectionPanel::currentAction() const
+{
+    const QvelActionItem *item =
+            m_model->itemFromVelAction(QvelActionItemModel::ActionColumn, m_currentAction);
+    return item != nullptr ? m_model->velActionFromModelIdx(item->index()) : nullptr;
+}
+
+void ActionSelectionPanel::clearSelection()
+{
+    m_currentAction = {};
+    if (QItemSelectionModel *selection = m_form.keyActionsTreeView->selectionModel())
+        selection->clear();
+}
+
+void ActionSelectionPanel::resetSelectedActionFields()
+{
+    m_form.shortcutLineEdit->clear();
+    hideAlreadyAssignedControls();
+    updateSelectedActionShortcutList();
+}
+
+void ActionSelectionPanel::retranslate()
+{
+    showRow(m_form.keyActionsTreeView->currentIndex());
+}
+
+// Typing a hotkey
+
+void ActionSelectionPanel::capture(const QKeyEvent &event)
+{
+    m_captured = HotkeyRecorder::capture(event);
+    m_form.shortcutLineEdit->setText(HotkeyRecorder::text(m_captured));
+    updateAssignedShortcutFields(); // the text may be the one that stood there before
+}
+
+void ActionSelectionPanel::releaseKeys()
+{
+    if (m_captured.combination == 0)
+        m_form.shortcutLineEdit->clear();
+}
+
+void ActionSelectionPanel::followTypedText(const QString &text)
+{
+    if (text.isEmpty())
+        m_captured = {};
+    updateAssignedShortcutFields();
+}
+
+QString ActionSelectionPanel::capturedShortcut() const
+{
+    if (m_captured.combination == 0)
+        return {};
+    return QKeySequence(m_captured.combination).toString(QKeySequence::PortableText);
+}
+
+VelAction *ActionSelectionPanel::holderOf(const QString &shortcut) const
+{
+    const VelAction *action = currentAction();
+    if (action == nullptr || shortcut.isEmpty())
+        return nullptr;
+    return m_model->velActionFromShortcut(shortcut, action->contextId());
+}
+
+void ActionSelectionPanel::updateAssignedShortcutFields()
+{
+    const VelAction *action = currentAction();
+    if (action == nullptr)
+        return;
+    const VelAction *holder = holderOf(capturedShortcut());
+    if (holder == nullptr || holder->identifier() == action->identifier()) {
+        m_form.assignedToLabel->clear();
+        m_form.assignShortcutButton->setEnabled(m_captured.combination != 0);
+        hideAlreadyAssignedControls();
+    } else {
+        m_form.assignedToLabel->setText(holder->name());
+        m_form.assignShortcutButton->setEnabled(false);
+        showAlreadyAssignedControls();
+    }
+    m_form.assignedToLabel->setMinimumWidth(getTextMinimunQLabelWidth(m_form.assignedToLabel));
+    fitBoxHeight();
+}
+
+int ActionSelectionPanel::getTextMinimunQLabelWidth(const QLabel *label) const
+{
+    const QString text = label->text();
+    if (text.isEmpty() || !label->wordWrap())
+        return 0;
+    const QFontMetrics metrics = label->fontMetrics();
+    int widest = 0;
+    int start = 0;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+    for (int end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
+        const QString piece = text.mid(start, end - start);
+        widest = std::max(widest, metrics.boundingRect(piece).width() + metrics.averageCharWidth());
+        start = end;
+    }
+    return widest;
+}
+
+void ActionSelectionPanel::fitBoxHeight()
+{
+    QGroupBox *box = m_form.newHotkeysGroupBox;
+    box->setMinimumHeight(std::max(0, box->heightForWidth(box->width())));
+}
+
+// Edits
+
+void ActionSelectionPanel::assign()
+{
+    const VelAction *action = currentAction();
+    const QString shortcut = capturedShortcut();
+    if (action == nullptr || shortcut.isEmpty())
+        return;
+    const bool isHeld = holderOf(shortcut) != nullptr;
+    if (!isHeld && currentShortcuts().size() >= QShortcutsList::ShortcutLimitPerAction) {
+        tellThatListIsFull();
+        return;
+    }
+    const ActionIdentifier id = action->identifier();
+    const QString name = action->name();
+    m_form.shortcutLineEdit->clear();
+    if (isHeld)
+        return;
+    m_manager->assignShortcut(id, shortcut, name);
+    hideReassignControls();
+}
+
+void ActionSelectionPanel::tellThatListIsFull()
+{
+    QMessageBox box(QMessageBox::Information,
+                    editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Too Many Hotkeys")),
+                    editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
+                                                 "An action can have at most %1 hotkeys.\n\nRemove "
+                                                 "one of them before you assign another.\n"))
+                            .arg(QShortcutsList::ShortcutLimitPerAction),
+                    QMessageBox::Ok, m_form.newHotkeysGroupBox->window());
+    box.exec();
+}
+
+void ActionSelectionPanel::removeFromHolder()
+{
+    const QString shortcut = capturedShortcut();
+    const VelAction *holder = holderOf(shortcut);
+    if (holder == nullptr)
+        return;
+    m_removedFromId = holder->identifier();
+    m_removedFromName = holder->name();
+    m_removedHotkey = shortcut;
+    // The edit may change the fields while its signals are delivered.
+    const ActionIdentifier id = m_removedFromId;
+    const QString name = m_removedFromName;
+    m_manager->unassignShortcut(id, shortcut, name);
+    updateAssignedShortcutFields();
+    showReassignControls();
+}
+
+void ActionSelectionPanel::undoRemoval()
+{
+    if (currentAction() == nullptr || m_removedHotkey.isEmpty())
+        return;
+    const ActionIdentifier id = m_removedFromId;
+    const QString name = m_removedFromName;
+    const QString shortcut = m_removedHotkey;
+    m_manager->assignShortcut(id, shortcut, name);
+    hideReassignControls();
+    updateAssignedShortcutFields();
+}
+
+// Conflict and removal
+
+void ActionSelectionPanel::hideAlreadyAssignedControls()
+{
+    m_form.alreadyAssignedLabel->hide();
+    m_form.assignedToLabel->hide();
+    m_form.removeShortcutButton->hide();
+    m_form.removeShortcutButton->setEnabled(false);
+    m_form.hotkeyListSeparatorLine->hide();
+}
+
+void ActionSelectionPanel::showAlreadyAssignedControls()
+{
+    m_form.alreadyAssignedLabel->show();
+    m_form.assignedToLabel->show();
+    m_form.removeShortcutButton->show();
+    m_form.removeShortcutButton->setEnabled(true);
+    const QVBoxLayout *layout = rowLayout();
+    m_form.hotkeyListSeparatorLine->setVisible(layout != nullptr && layout->count() >= 2);
+}
+
+void ActionSelectionPanel::hideReassignControls()
+{
+    m_removedFromId = {};
+    m_removedFromName.clear();
+    m_removedHotkey.clear();
+    m_form.removedFromLabel->hide();
+    m_form.successRemoveLabel->hide();
+    m_form.undoRemoveButton->hide();
+    m_form.undoRemoveButton->setEnabled(false);
+    m_form.hotkeyListSeparatorLine->hide();
+}
+
+void ActionSelectionPanel::showReassignControls()
+{
+    m_form.removedFromLabel->setText(m_removedFromName);
+    m_form.removedFromLabel->show();
+    m_form.successRemoveLabel->show();
+    m_form.undoRemoveButton->show();
+    m_form.undoRemoveButton->setEnabled(true);
+    m_form.removedFromLabel->setMinimumWidth(getTextMinimunQLabelWidth(m_form.removedFromLabel));
+    fitBoxHeight();
+    m_form.hotkeyListSeparatorLine->show();
+}
+
+} // namespace CUI

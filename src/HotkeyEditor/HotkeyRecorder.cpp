@@ -1,0 +1,132 @@
+#include "HotkeyRecorder.h"
+
+#include "NativeKeys.h"
+
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QLoggingCategory>
+
+namespace CUI::HotkeyRecorder {
+
+namespace {
+
+Q_LOGGING_CATEGORY(keys, "cui.hotkeyeditor.keys")
+
+bool isBetween(int code, int first, int last)
+{
+    return code >= first && code <= last;
+}
+
+void writeToLog(const QKeyEvent &event)
+{
+    const QString line = QStringLiteral("key: %1 Text: %2 modifiers: %3 nativeModifiers: %4 "
+                                        "nativeScanCode: %5 nativeVirtualKey: %6");
+    qCDebug(keys).noquote() << line.arg(
+            QString::number(event.key()), event.text(), QString::number(event.modifiers()),
+            QString::number(event.nativeModifiers()), QString::number(event.nativeScanCode()),
+            QString::number(event.nativeVirtualKey()));
+}
+
+int modifierOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Shift:
+        return Qt::ShiftModifier;
+    case Qt::Key_Control:
+        return Qt::ControlModifier;
+    case Qt::Key_Alt:
+        return Qt::AltModifier;
+    case Qt::Key_Meta:
+        return Qt::MetaModifier;
+    default:
+        return 0;
+    }
+}
+
+/// Hotkeys never have Meta.
+int heldModifiers(const QKeyEvent &event, int virtualKey)
+{
+    // An event does not always count the key that it reports among the modifiers.
+    constexpr int altKey = 18;
+    const int pressed = virtualKey == altKey ? int{Qt::AltModifier} : modifierOf(event.key());
+    const int held = static_cast<int>(event.modifiers()) | pressed;
+    return held & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+}
+
+/// The key itself, not what Shift and the like make of it.
+int unshiftedKey(const QKeyEvent &event, int virtualKey)
+{
+    if (isBetween(virtualKey, '0', '9') || isBetween(virtualKey, 'A', 'Z'))
+        return virtualKey;
+    constexpr int firstPunctuation = 186;
+    constexpr int lastPunctuation = 223;
+    if (isBetween(virtualKey, firstPunctuation, lastPunctuation)) {
+        const int character = NativeKeys::unshiftedCharacterOf(virtualKey, event);
+        if (character != 0)
+            return character;
+    }
+    return event.key();
+}
+
+int keyOf(const QKeyEvent &event, int virtualKey)
+{
+    const int key = unshiftedKey(event, virtualKey);
+    switch (key) {
+    case Qt::Key_Backtab:
+        return Qt::Key_Tab;
+    case Qt::Key_Return:
+        return Qt::Key_Enter;
+    default:
+        return key;
+    }
+}
+
+int keypadModifierOf(int virtualKey)
+{
+    constexpr int firstOnKeypad = 96;
+    constexpr int lastOnKeypad = 111;
+    constexpr int separator = 108;
+    const bool isOnKeypad =
+            isBetween(virtualKey, firstOnKeypad, lastOnKeypad) && virtualKey != separator;
+    return isOnKeypad ? int{Qt::KeypadModifier} : 0;
+}
+
+bool isHotkey(int key, int modifiers)
+{
+    switch (key) {
+    case 0:
+    case Qt::Key_Escape:
+    case Qt::Key_NumLock:
+    case Qt::Key_F1:
+    case Qt::Key_Pause:
+    case Qt::Key_Backspace:
+    case Qt::Key_ScrollLock:
+        return false;
+    case Qt::Key_Tab:
+        return (modifiers & ~int{Qt::ShiftModifier}) != Qt::ControlModifier;
+    default:
+        return key <= Qt::Key_F24 && modifierOf(key) == 0;
+    }
+}
+
+} // namespace
+
+Capture capture(const QKeyEvent &event)
+{
+    writeToLog(event);
+    const int virtualKey = NativeKeys::virtualKeyOf(event);
+    const int key = keyOf(event, virtualKey);
+    Capture result;
+    result.modifiers = heldModifiers(event, virtualKey);
+    if (isHotkey(key, result.modifiers))
+        result.combination = key | result.modifiers | keypadModifierOf(virtualKey);
+    return result;
+}
+
+QString text(const Capture &capture)
+{
+    const QKeySequence shown(capture.combination != 0 ? capture.combination : capture.modifiers);
+    return shown.toString(QKeySequence::NativeText);
+}
+
+} // namespace CUI::HotkeyRecorder

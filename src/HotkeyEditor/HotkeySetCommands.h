@@ -1,0 +1,86 @@
+#pragma once
+
+#include "Preset.h"
+
+#include <QObject>
+#include <QString>
+
+class QWidget;
+
+namespace CUI {
+
+class QvelPresetComboBox;
+class QvelShortcutManager;
+
+/// The commands of the hotkey editor that act on whole sets, with their questions. Keeps which set
+/// is loaded and whether it has unsaved changes.
+class HotkeySetCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p editor is the parent of every dialog. All arguments must outlive the object.
+    HotkeySetCommands(QWidget *editor, QvelPresetComboBox *comboBox, QvelShortcutManager *manager);
+
+    const Preset &currentPreset() const { return m_currentPreset; }
+    bool isModified() const { return m_modified; }
+
+    /// Takes over the set and the modified state that the store has when the editor is opened.
+    void showStoreState();
+
+    void markModified();
+    void unmarkModified(bool invalidate);
+    /// The store says that no unsaved edit is left.
+    void followUnmodified();
+
+    /// The user has chosen another entry of the combo box. Asks before unsaved changes go; puts the
+    /// selection back when the user cancels or the set cannot be loaded.
+    void choosePreset(int index);
+    /// The store has loaded a configuration.
+    void followLoadedConfiguration(const QString &path);
+
+    bool maybeSaveChanges();
+    bool maybeDiscardChanges();
+    void discardChanges();
+    bool saveCurrent();
+    bool saveAs();
+    void loadFromFile();
+    void selectFileForConversion();
+    void openFileLocation() const;
+    void validateShortcutFile();
+    void validateShortcutTransformationFile();
+    void saveShortcuts();
+    void loadShortcuts();
+
+Q_SIGNALS:
+    /// The colours of all rows of the table may have changed.
+    void rowsInvalidated();
+    /// The assigned hotkeys of the selected action may have changed.
+    void selectedActionInvalidated();
+    /// Another set is loaded; nothing is selected any more.
+    void setReplaced();
+    void presetModified(bool modified);
+    void modificationsSaved();
+    void legacyHotkeySetConverted(bool success);
+
+private:
+    bool loadPresetTransformations(const QString &path, Preset &preset) const;
+    bool fileNotFoundDoUserPrompt(const Preset &preset, bool *result, Preset *replacement);
+    Preset resetToDefault(const Preset &missing);
+    bool saveChanges(Preset &preset);
+    bool saveAsChanges(Preset &preset);
+    void convertLegacyShortcuts(const QString &path);
+    void adoptLoadedSet(const Preset &preset);
+    void setCurrentPreset(const Preset &preset);
+    void selectSilently(const Preset &preset);
+    Preset describe(const QString &path) const;
+
+    QWidget *m_editor;
+    QvelPresetComboBox *m_comboBox;
+    QvelShortcutManager *m_manager;
+    Preset m_currentPreset;
+    bool m_modified = false;
+    bool m_isChoosing = false;
+};
+
+} // namespace CUI

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QMessageBox>
+#include <QString>
+
+class QWidget;
+
+namespace CUI {
+
+/// The questions and messages of the hotkey set commands. Names from files are shown as plain text.
+namespace HotkeySetDialogs {
+
+QMessageBox::StandardButton popupSaveChangesDlg(QWidget *parent);
+QMessageBox::StandardButton popupResetChangesDlg(QWidget *parent);
+QMessageBox::StandardButton popupFileNotFoundSaveDlg(QWidget *parent, const QString &setName);
+void popupFileNotFoundInfoDlg(QWidget *parent, const QString &setName);
+
+/// Yes only when the user wants the file of that name replaced.
+bool confirmReplacement(QWidget *parent, const QString &fileName);
+void showLockedWarning(QWidget *parent);
+/// Offers to open the log file when there is one.
+void showSaveFailure(QWidget *parent, const QString &path);
+/// The same; @p reason comes from the log and may be empty.
+void showLoadFailure(QWidget *parent, const QString &path, const QString &reason);
+/// Offers to open the folder of the user's sets.
+void showConverted(QWidget *parent, const QString &inputName, const QString &outputName);
+void showConversionFailure(QWidget *parent, const QString &inputName);
+void showValidation(QWidget *parent, const QString &title, bool valid);
+
+/// \name File dialogs
+/// Each returns the chosen path, or an empty text.
+/// @{
+QString askSaveSetPath(QWidget *parent);
+QString askLoadSetPath(QWidget *parent);
+QString askLegacyPath(QWidget *parent);
+QString askOpenPath(QWidget *parent, const QString &title, const QString &filter,
+                    const QString &directory);
+QString askSavePath(QWidget *parent, const QString &title, const QString &filter,
+                    const QString &suffix);
+/// @}
+
+/// \name The filters of the dialogs
+/// @{
+QString hotkeySetFilter();
+QString shortcutFileFilter();
+/// @}
+
+} // namespace HotkeySetDialogs
+} // namespace CUI

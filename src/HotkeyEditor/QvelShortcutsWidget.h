@@ -1,0 +1,145 @@
+#pragma once
+
+#include "ActionIdentifier.h"
+#include "QvelActionItemModel.h"
+#include "UiCustomizationsExport.h"
+
+#include <QColor>
+#include <QIcon>
+#include <QWidget>
+
+#include <memory>
+
+class QLabel;
+
+namespace CUI {
+
+class QvelShortcutManager;
+class VelAction;
+
+/// The hotkey editor.
+///
+/// On the left the actions, to be searched, filtered and sorted; on the right the selected action
+/// with its hotkeys, the field in which a new one is typed, and its conflict; on top the hotkey set
+/// with the commands that save, load, reset and import sets. Every edit goes to the store, and the
+/// widget shows what the store announces. While a hotkey is being typed, no shortcut of the host
+/// fires.
+///
+/// The host places it in a dialog of its own, and calls maybeSaveChanges() before it closes that.
+/// The list of sets follows the directory of the user's sets, which the installed IPathManager
+/// names when the widget is made. Its texts follow a change of the language.
+class CUI_EXPORT QvelShortcutsWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Shows the set and the unsaved edits that the store has. Owns neither @p model nor
+    /// @p manager, which must not be null and must outlive it.
+    QvelShortcutsWidget(QvelActionItemModel *model, QvelShortcutManager *manager,
+                        QWidget *parent = nullptr);
+    ~QvelShortcutsWidget() override;
+
+    /// \name Looks
+    /// @{
+
+    /// The colour of hotkeys that unsaved edits concern, and of the marker of unsaved changes; red
+    /// at first.
+    void setUserModifiedColor(const QColor &color);
+    /// The colour of other hotkeys that the base configuration does not have; dark green at first.
+    void setTransformShortcutsColor(const QColor &color);
+    /// The mark of sets that cannot be written.
+    void setPresetComboBoxItemIcon(const QIcon &icon);
+    void setToolButtonPresetOptionsIcon(const QIcon &icon);
+    void setToolButtonSavePresetIcon(const QIcon &icon);
+    /// @}
+
+    /// \name The list of actions
+    /// @{
+
+    /// Lists only actions of that context. Nothing happens when the list of contexts lacks it.
+    void setCurrentContext(unsigned long contextId);
+    /// Chooses an entry of the hotkey filter: a QvelSortFilterProxyModel::HotkeyFilter.
+    void setHotkeyFilter(int index);
+    void sortActionTreeByColumn(QvelActionItemModel::ActionTreeColumns column);
+    /// Reads the actions of the registry anew. Column widths and the selected action stay.
+    void reloadActionsList();
+    /// @}
+
+    /// \name The selected action
+    /// @{
+
+    /// Selects an action, unless the list of actions lacks it. With @p focus it ends a search and
+    /// puts the keyboard focus on the field of the new hotkey.
+    void setCurrentAction(const ActionIdentifier &id, bool focus);
+    /// The selected action, or null. Valid until the registry changes.
+    VelAction *currentAction() const;
+    void clearSelection();
+    /// Forgets the hotkey that is being typed, and reads the assigned ones anew.
+    void resetSelectedActionFields();
+    /// @}
+
+    /// True while unsaved edits exist.
+    bool isModified() const;
+
+public Q_SLOTS:
+    /// \name Hotkey sets
+    /// Each asks the user where it says so; a cancelled dialog changes nothing. Failures are shown
+    /// in a message box. Locked sets are never overwritten.
+    /// @{
+
+    /// Asks whether unsaved edits are to be saved or dropped. False when the user cancels or the
+    /// set cannot be saved: the caller must stop then. True at once without unsaved edits.
+    bool maybeSaveChanges();
+    /// Asks whether unsaved edits are to be dropped. False when the user cancels.
+    bool maybeDiscardChanges();
+    /// Loads the current set from its file, without asking.
+    void discardChanges();
+    /// Asks for a keyboard file of an older release, converts it to a set of the user and loads it.
+    /// Emits legacyHotkeySetConverted() unless the user cancels.
+    void selectFileForConversion();
+    /// Asks for a file and tells whether it is a valid base hotkey file.
+    void validateShortcutFile();
+    /// Asks for a file and tells whether it is a valid hotkey set.
+    void validateShortcutTransformationFile();
+    /// Asks for a place, saves the edits there as a new set and makes it the current one.
+    void saveShortcutsTransformation();
+    /// Asks about unsaved edits, then for a hotkey set, and loads it.
+    void loadShortcutsTransformation();
+    /// Asks for a place and writes the base hotkeys there.
+    void saveShortcuts();
+    /// Asks about unsaved edits, then for a base hotkey file, and replaces all hotkeys by it.
+    void loadShortcuts();
+    /// @}
+
+    /// \name Recorded steps
+    /// @{
+
+    /// Shows the window that lists the recorded steps, or hides it.
+    void transformationListWidget();
+    /// Makes the current hotkeys the base and forgets the steps.
+    void applyCurrentTransformation();
+    /// @}
+
+    void markModified();
+    /// With @p invalidate the colours of all rows are drawn anew.
+    void unmarkModified(bool invalidate);
+
+Q_SIGNALS:
+    /// The first unsaved edit was made, or none is left. Never emitted twice in a row with the same
+    /// value.
+    void presetModified(bool modified);
+    /// The edits have been saved to a set.
+    void modificationsSaved();
+    /// An import has ended.
+    void legacyHotkeySetConverted(bool success);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace CUI

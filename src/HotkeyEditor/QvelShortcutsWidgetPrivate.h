@@ -1,0 +1,71 @@
+#pragma once
+
+#include "ActionListTreeItemDelegate.h"
+#include "ActionSearch.h"
+#include "ActionSelectionPanel.h"
+#include "HotkeyEditorForm.h"
+#include "HotkeySetCommands.h"
+#include "QvelActionItemModel.h"
+#include "QvelPresetComboBox.h"
+#include "QvelShortcutManager.h"
+#include "QvelShortcutsWidget.h"
+#include "QvelSortFilterProxyModel.h"
+#include "TransformationListDialog.h"
+
+#include <QList>
+
+class QAction;
+class QFileSystemWatcher;
+class QKeyEvent;
+
+namespace CUI {
+
+/// Puts the pieces of the hotkey editor together. All objects are children of the editor.
+class QvelShortcutsWidget::Private
+{
+public:
+    Private(QvelShortcutsWidget *editor, QvelActionItemModel *actionModel,
+            QvelShortcutManager *shortcutManager);
+
+    void build();
+    void connectAll();
+    void retranslate();
+    bool filterKeyPress(bool typesHotkey, const QKeyEvent &event);
+    void saveHeadersSizes();
+    void restoreHeadersSizes();
+
+    QvelShortcutsWidget *q;
+    QvelActionItemModel *model;
+    QvelShortcutManager *manager;
+    HotkeyEditorForm form;
+    QvelSortFilterProxyModel *proxy = nullptr;
+    QFileSystemWatcher *watcher = nullptr;
+    ActionListTreeItemDelegate *delegate = nullptr;
+    ActionSelectionPanel *panel = nullptr;
+    ActionSearch *search = nullptr;
+    HotkeySetCommands *commands = nullptr;
+    TransformationListDialog *transformationDialog = nullptr;
+
+private:
+    void scaleWidths();
+    void watchUserPresets();
+    void setUpPresetComboBox();
+    void setUpPresetOptionsButton();
+    void setUpTree();
+    void setUpFields();
+    void alignFilterLabels();
+    void setDefaultHeadersSizes();
+    void retranslateFilters();
+    void connectLists();
+    void connectSelection();
+    void connectStore();
+    void connectCommands();
+    void filterByHotkeyState(int index);
+    void filterByContext(int index);
+    void keepCurrentActionInView();
+
+    QList<QAction *> m_optionActions;
+    QList<int> m_savedColumnWidths;
+};
+
+} // namespace CUI

@@ -1,0 +1,189 @@
+#include "HotkeyRecorder.h"
+
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QLoggingCategory>
+#include <QtTest>
+
+using namespace CUI;
+
+namespace {
+
+QKeyEvent press(int key, Qt::KeyboardModifiers modifiers, int virtualKey,
+                const QString &text = QString())
+{
+    constexpr quint32 scanCode = 30;
+    constexpr quint32 nativeModifiers = 3;
+    return {QEvent::KeyPress, key, modifiers, scanCode, static_cast<quint32>(virtualKey),
+            nativeModifiers,  text};
+}
+
+QString portable(int combination)
+{
+    return QKeySequence(combination).toString(QKeySequence::PortableText);
+}
+
+constexpr Qt::KeyboardModifiers none = Qt::NoModifier;
+constexpr Qt::KeyboardModifiers shift = Qt::ShiftModifier;
+constexpr Qt::KeyboardModifiers ctrl = Qt::ControlModifier;
+constexpr Qt::KeyboardModifiers alt = Qt::AltModifier;
+constexpr Qt::KeyboardModifiers meta = Qt::MetaModifier;
+constexpr Qt::KeyboardModifiers keypad = Qt::KeypadModifier;
+
+} // namespace
+
+/// Key presses as the offscreen platform hands them on: with Windows virtual keys.
+class TestHotkeyRecorder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void captures_data();
+    void captures();
+    void refuses_data();
+    void refuses();
+    void writesEachPressToTheLog();
+};
+
+void TestHotkeyRecorder::init()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("cui.hotkeyeditor.keys=false"));
+}
+
+void TestHotkeyRecorder::captures_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::addColumn<int>("virtualKey");
+    QTest::addColumn<QString>("hotkey");
+
+    const auto row = [](const char *name, int key, Qt::KeyboardModifiers modifiers, int virtualKey,
+                        const char *hotkey) {
+        QTest::newRow(name) << key << modifiers << virtualKey << QString::fromUtf8(hotkey);
+    };
+    row("digit with Shift", Qt::Key_Exclam, shift, 49, "Shift+1");
+    row("last digit", Qt::Key_ParenRight, shift, 48, "Shift+0");
+    row("before the digits", Qt::Key_Slash, none, 47, "/");
+    row("after the digits", Qt::Key_Colon, none, 58, ":");
+    row("Cyrillic letter", 0x042F, ctrl, 90, "Ctrl+Z");
+    row("letter", Qt::Key_A, ctrl | alt | shift, 65, "Ctrl+Alt+Shift+A");
+    row("before the letters", Qt::Key_At, none, 64, "@");
+    row("after the letters", Qt::Key_BracketLeft, none, 91, "[");
+    row("unknown virtual key", Qt::Key_Exclam, shift, 0, "Shift+!");
+
+    row("before the punctuation", Qt::Key_Colon, shift, 185, "Shift+:");
+    row("first punctuation", Qt::Key_Colon, shift, 186, "Shift+;");
+    row("plus", Qt::Key_Plus, ctrl | shift, 187, "Ctrl+Shift+=");
+    row("comma", Qt::Key_Less, shift, 188, "Shift+,");
+    row("minus", Qt::Key_Underscore, shift, 189, "Shift+-");
+    row("full stop", Qt::Key_Greater, shift, 190, "Shift+.");
+    row("slash", Qt::Key_Question, shift, 191, "Shift+/");
+    row("backquote", Qt::Key_AsciiTilde, shift, 192, "Shift+`");
+    row("opening bracket", Qt::Key_BraceLeft, shift, 219, "Shift+[");
+    row("backslash", Qt::Key_Bar, shift, 220, "Shift+\\");
+    row("closing bracket", Qt::Key_BraceRight, shift, 221, "Shift+]");
+    row("apostrophe", Qt::Key_QuoteDbl, shift, 222, "Shift+'");
+    row("last punctuation", Qt::Key_AsciiTilde, shift, 223, "Shift+§");
+    row("punctuation without a character", Qt::Key_AsciiTilde, shift, 200, "Shift+~");
+    row("after the punctuation", Qt::Key_Greater, shift, 226, "Shift+>");
+
+    row("keypad 0", Qt::Key_0, keypad, 96, "Num+0");
+    row("keypad 5", Qt::Key_5, keypad | ctrl, 101, "Ctrl+Num+5");
+    row("keypad plus", Qt::Key_Plus, keypad, 107, "Num++");
+    row("keypad separator", Qt::Key_Comma, keypad, 108, ",");
+    row("keypad slash", Qt::Key_Slash, keypad, 111, "Num+/");
+    row("keypad without numbers", Qt::Key_Home, keypad, 36, "Home");
+    row("keypad Enter", Qt::Key_Enter, keypad, 13, "Enter");
+    row("before the keypad", Qt::Key_A, none, 95, "A");
+
+    row("Return", Qt::Key_Return, none, 13, "Enter");
+    row("Backtab", Qt::Key_Backtab, shift, 9, "Shift+Tab");
+    row("Tab", Qt::Key_Tab, none, 9, "Tab");
+    row("Alt+Tab", Qt::Key_Tab, alt, 9, "Alt+Tab");
+    row("Ctrl+Alt+Tab", Qt::Key_Tab, ctrl | alt, 9, "Ctrl+Alt+Tab");
+    row("F2", Qt::Key_F2, none, 113, "F2");
+    row("F24", Qt::Key_F24, shift, 135, "Shift+F24");
+    row("Caps Lock", Qt::Key_CapsLock, none, 20, "CapsLock");
+    row("Delete", Qt::Key_Delete, none, 46, "Del");
+    row("Meta is dropped", Qt::Key_A, meta | ctrl, 65, "Ctrl+A");
+}
+
+void TestHotkeyRecorder::captures()
+{
+    QFETCH(int, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    QFETCH(int, virtualKey);
+
+    const HotkeyRecorder::Capture capture =
+            HotkeyRecorder::capture(press(key, modifiers, virtualKey));
+    QTEST(portable(capture.combination), "hotkey");
+    QCOMPARE(capture.modifiers, int(modifiers & (shift | ctrl | alt)));
+    QCOMPARE(HotkeyRecorder::text(capture),
+             QKeySequence(capture.combination).toString(QKeySequence::NativeText));
+}
+
+void TestHotkeyRecorder::refuses_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::addColumn<int>("virtualKey");
+    QTest::addColumn<QString>("shown");
+
+    const auto row = [](const char *name, int key, Qt::KeyboardModifiers modifiers, int virtualKey,
+                        const char *shown = "") {
+        QTest::newRow(name) << key << modifiers << virtualKey << QString::fromLatin1(shown);
+    };
+    row("Escape", Qt::Key_Escape, none, 27);
+    row("Ctrl+Escape", Qt::Key_Escape, ctrl, 27, "Ctrl+");
+    row("F1", Qt::Key_F1, none, 112);
+    row("Shift+F1", Qt::Key_F1, shift, 112, "Shift+");
+    row("Backspace", Qt::Key_Backspace, none, 8);
+    row("Alt+Backspace", Qt::Key_Backspace, alt, 8, "Alt+");
+    row("Pause", Qt::Key_Pause, none, 19);
+    row("Num Lock", Qt::Key_NumLock, none, 144);
+    row("Scroll Lock", Qt::Key_ScrollLock, ctrl | alt, 145, "Ctrl+Alt+");
+    row("Ctrl+Tab", Qt::Key_Tab, ctrl, 9, "Ctrl+");
+    row("Ctrl+Backtab", Qt::Key_Backtab, ctrl, 9, "Ctrl+");
+    row("Ctrl+Shift+Backtab", Qt::Key_Backtab, ctrl | shift, 9, "Ctrl+Shift+");
+    row("Ctrl+Shift+Tab", Qt::Key_Tab, ctrl | shift, 9, "Ctrl+Shift+");
+    row("Ctrl+Meta+Tab", Qt::Key_Tab, ctrl | meta, 9, "Ctrl+");
+    row("F25", Qt::Key_F25, none, 0);
+    row("menu key", Qt::Key_Menu, ctrl, 93, "Ctrl+");
+    row("volume key", Qt::Key_VolumeUp, none, 175);
+    row("unknown key", Qt::Key_unknown, shift, 0, "Shift+");
+    row("no key", 0, ctrl, 0, "Ctrl+");
+
+    // Platforms differ in whether such an event counts its own key among the modifiers.
+    row("Shift, counted", Qt::Key_Shift, shift, 16, "Shift+");
+    row("Ctrl", Qt::Key_Control, none, 17, "Ctrl+");
+    row("Alt while Ctrl is held", Qt::Key_Alt, ctrl, 18, "Ctrl+Alt+");
+    row("Alt while Ctrl is held, counted", Qt::Key_Alt, ctrl | alt, 18, "Ctrl+Alt+");
+    row("Meta", Qt::Key_Meta, none, 91);
+}
+
+void TestHotkeyRecorder::refuses()
+{
+    QFETCH(int, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    QFETCH(int, virtualKey);
+
+    const HotkeyRecorder::Capture capture =
+            HotkeyRecorder::capture(press(key, modifiers, virtualKey));
+    QCOMPARE(capture.combination, 0);
+    QTEST(HotkeyRecorder::text(capture), "shown");
+}
+
+void TestHotkeyRecorder::writesEachPressToTheLog()
+{
+    QLoggingCategory::setFilterRules(QString());
+    QTest::ignoreMessage(QtDebugMsg, "key: 33 Text: %1! modifiers: 33554432 nativeModifiers: 3 "
+                                     "nativeScanCode: 30 nativeVirtualKey: 49");
+    HotkeyRecorder::capture(press(Qt::Key_Exclam, shift, 49, QStringLiteral("%1!")));
+    QTest::ignoreMessage(QtDebugMsg, "key: 16777216 Text:  modifiers: 0 nativeModifiers: 3 "
+                                     "nativeScanCode: 30 nativeVirtualKey: 27");
+    HotkeyRecorder::capture(press(Qt::Key_Escape, none, 27));
+}
+
+QTEST_MAIN(TestHotkeyRecorder)
+#include "tst_HotkeyRecorder.moc"
