@@ -1,0 +1,30 @@
+#include "Configuration.h"
+#include "Rows.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+using namespace CUI::Bench;
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+
+    Workload workload;
+    addSchemaRows(workload);
+    addLoadRows(workload);
+    addStoreRows(workload);
+    addEditRows(workload);
+    addCollapseRows();
+
+    Table table;
+    const std::size_t rows = benchmark::RunSpecifiedBenchmarks(&table);
+    benchmark::Shutdown();
+    if (rows > 0 && !table.isWithinLimits())
+        std::puts("\nA limit is exceeded.");
+    return rows > 0 && table.isWithinLimits() ? 0 : 1;
+}
