@@ -21,7 +21,7 @@ void writeToLog(const QKeyEvent &event)
 {
     const QString line = QStringLiteral("key: %1 Text: %2 modifiers: %3 nativeModifiers: %4 "
                                         "nativeScanCode: %5 nativeVirtualKey: %6");
-    qCDebug(keys).noquote() << line.arg(
+    QMessageLogger().debug(keys()).noquote() << line.arg(
             QString::number(event.key()), event.text(), QString::number(event.modifiers()),
             QString::number(event.nativeModifiers()), QString::number(event.nativeScanCode()),
             QString::number(event.nativeVirtualKey()));
@@ -50,7 +50,7 @@ int heldModifiers(const QKeyEvent &event, int virtualKey)
     constexpr int altKey = 18;
     const int pressed = virtualKey == altKey ? int{Qt::AltModifier} : modifierOf(event.key());
     const int held = static_cast<int>(event.modifiers()) | pressed;
-    return held & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    return held & (int{Qt::ShiftModifier} | int{Qt::ControlModifier} | int{Qt::AltModifier});
 }
 
 /// The key itself, not what Shift and the like make of it.

@@ -64,15 +64,14 @@ void TestHotkeyRecorder::captures_data()
     };
     row("digit with Shift", Qt::Key_Exclam, shift, 49, "Shift+1");
     row("last digit", Qt::Key_ParenRight, shift, 48, "Shift+0");
-    row("before the digits", Qt::Key_Slash, none, 47, "/");
-    row("after the digits", Qt::Key_Colon, none, 58, ":");
+    row("before the digits", Qt::Key_Exclam, none, 47, "!");
+    row("after the digits", Qt::Key_Exclam, none, 58, "!");
     row("Cyrillic letter", 0x042F, ctrl, 90, "Ctrl+Z");
-    row("letter", Qt::Key_A, ctrl | alt | shift, 65, "Ctrl+Alt+Shift+A");
-    row("before the letters", Qt::Key_At, none, 64, "@");
-    row("after the letters", Qt::Key_BracketLeft, none, 91, "[");
+    row("letter of another layout", Qt::Key_Q, ctrl | alt | shift, 65, "Ctrl+Alt+Shift+A");
+    row("before the letters", Qt::Key_Exclam, none, 64, "!");
+    row("after the letters", Qt::Key_Exclam, none, 91, "!");
     row("unknown virtual key", Qt::Key_Exclam, shift, 0, "Shift+!");
 
-    row("before the punctuation", Qt::Key_Colon, shift, 185, "Shift+:");
     row("first punctuation", Qt::Key_Colon, shift, 186, "Shift+;");
     row("plus", Qt::Key_Plus, ctrl | shift, 187, "Ctrl+Shift+=");
     row("comma", Qt::Key_Less, shift, 188, "Shift+,");
@@ -86,7 +85,6 @@ void TestHotkeyRecorder::captures_data()
     row("apostrophe", Qt::Key_QuoteDbl, shift, 222, "Shift+'");
     row("last punctuation", Qt::Key_AsciiTilde, shift, 223, "Shift+§");
     row("punctuation without a character", Qt::Key_AsciiTilde, shift, 200, "Shift+~");
-    row("after the punctuation", Qt::Key_Greater, shift, 226, "Shift+>");
 
     row("keypad 0", Qt::Key_0, keypad, 96, "Num+0");
     row("keypad 5", Qt::Key_5, keypad | ctrl, 101, "Ctrl+Num+5");
@@ -96,6 +94,7 @@ void TestHotkeyRecorder::captures_data()
     row("keypad without numbers", Qt::Key_Home, keypad, 36, "Home");
     row("keypad Enter", Qt::Key_Enter, keypad, 13, "Enter");
     row("before the keypad", Qt::Key_A, none, 95, "A");
+    row("after the keypad", Qt::Key_A, none, 112, "A");
 
     row("Return", Qt::Key_Return, none, 13, "Enter");
     row("Backtab", Qt::Key_Backtab, shift, 9, "Shift+Tab");
