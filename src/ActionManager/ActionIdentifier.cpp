@@ -23,7 +23,7 @@ ActionIdentifier ActionIdentifier::fromString(const QString &text)
 } // namespace CUI
 
 std::size_t std::hash<CUI::ActionIdentifier>::operator()(
-        const CUI::ActionIdentifier &identifier) const noexcept
+        const CUI::ActionIdentifier &identifier) const
 {
     std::uint64_t h = 0xcbf29ce484222325U;
     for (unsigned shift = 0; shift < 32; shift += 8)

@@ -53,10 +53,11 @@ inline bool operator<(const ActionIdentifier &a, const ActionIdentifier &b)
 
 namespace std {
 
-/// 64-bit FNV-1a over the low four bytes of tableId, combined with Qt's unseeded string hash.
+/// 64-bit FNV-1a over the low four bytes of tableId, combined with Qt's unseeded string hash. Never
+/// throws, but is not declared so: the standard library of GCC then keeps the hash of each key.
 template <>
 struct CUI_EXPORT hash<CUI::ActionIdentifier> {
-    size_t operator()(const CUI::ActionIdentifier &identifier) const noexcept;
+    size_t operator()(const CUI::ActionIdentifier &identifier) const;
 };
 
 } // namespace std

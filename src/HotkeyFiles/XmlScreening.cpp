@@ -13,8 +13,6 @@ namespace {
 using Names = std::set<QString, std::less<>>;
 
 const QLatin1String schemaInstanceNamespace("http://www.w3.org/2001/XMLSchema-instance");
-constexpr const char *unsupportedEncoding = "The encoding is not supported.";
-constexpr const char *documentTypeNotAllowed = "A document type declaration is not allowed.";
 
 // The codec under which the tags can be found: that of a byte order mark, or the one that maps
 // every byte to the character of the same number, since all other encodings that are let through
@@ -56,17 +54,16 @@ void blank(QString &text, XmlTagScan::Range range)
     }
 }
 
-class Screener
+// Counts the names as the processor does, with their namespaces resolved.
+class NamespaceScreener
 {
 public:
-    Screener(const QByteArray &document, bool isUtf16) : m_reader(document), m_isUtf16(isUtf16) { }
+    explicit NamespaceScreener(const QByteArray &document) : m_reader(document) { }
 
     std::optional<XmlError> run()
     {
         while (!m_reader.atEnd()) {
             const char *reason = reasonAgainst(m_reader.readNext());
-            if (reason == nullptr && ++m_nodes > maximumNodes)
-                reason = "The document has too many elements.";
             if (reason == nullptr && m_names.size() > maximumNames)
                 reason = "The document has too many different names.";
             if (reason != nullptr)
@@ -82,20 +79,13 @@ private:
     const char *reasonAgainst(QXmlStreamReader::TokenType token)
     {
         switch (token) {
-        case QXmlStreamReader::StartDocument:
-            return isReadableEncoding(m_reader.documentEncoding().toString(), m_isUtf16)
-                           ? nullptr
-                           : unsupportedEncoding;
         case QXmlStreamReader::DTD:
-            return documentTypeNotAllowed;
+            return "A document type declaration is not allowed.";
         case QXmlStreamReader::ProcessingInstruction:
             note(m_reader.processingInstructionTarget());
             return nullptr;
         case QXmlStreamReader::StartElement:
             return reasonAgainstElement();
-        case QXmlStreamReader::EndElement:
-            --m_depth;
-            return nullptr;
         default:
             return nullptr;
         }
@@ -103,14 +93,10 @@ private:
 
     const char *reasonAgainstElement()
     {
-        if (++m_depth > maximumDepth)
-            return "Elements are nested too deeply.";
         note(m_reader.name());
         note(m_reader.prefix());
         note(m_reader.namespaceUri());
-        const QXmlStreamAttributes attributes = m_reader.attributes();
-        m_nodes += attributes.size();
-        for (const QXmlStreamAttribute &attribute : attributes) {
+        for (const QXmlStreamAttribute &attribute : m_reader.attributes()) {
             if (attribute.namespaceUri() == schemaInstanceNamespace
                 && attribute.name().endsWith(QLatin1String("chemaLocation")))
                 return "A schema location is not allowed.";
@@ -118,11 +104,9 @@ private:
             note(attribute.prefix());
             note(attribute.namespaceUri());
         }
-        const QXmlStreamNamespaceDeclarations declarations = m_reader.namespaceDeclarations();
-        m_nodes += declarations.size();
-        for (const QXmlStreamNamespaceDeclaration &declaration : declarations) {
-            note(declaration.prefix());
-            note(declaration.namespaceUri());
+        for (const QXmlStreamNamespaceDeclaration &declared : m_reader.namespaceDeclarations()) {
+            note(declared.prefix());
+            note(declared.namespaceUri());
         }
         return nullptr;
     }
@@ -134,53 +118,62 @@ private:
     }
 
     QXmlStreamReader m_reader;
-    const bool m_isUtf16;
     Names m_names;
-    int m_depth = 0;
-    int m_nodes = 0;
 };
 
-// Looks at the tags, and takes the schema hints out.
-std::optional<XmlError> scanTags(QByteArray &document, QTextCodec &codec)
+bool declaresReadableEncoding(const QByteArray &document, bool isUtf16)
+{
+    QXmlStreamReader reader(document);
+    return reader.readNext() != QXmlStreamReader::StartDocument
+           || isReadableEncoding(reader.documentEncoding().toString(), isUtf16);
+}
+
+// Looks at the tags, and takes the schema hints out of the document.
+XmlTagScan::Result scanTags(Result &result, QTextCodec &codec)
 {
     // A byte order mark stays in the text, so that it is there again in the blanked document.
     QTextCodec::ConverterState decoding(QTextCodec::IgnoreHeader);
-    QString text = codec.toUnicode(document.constData(), document.size(), &decoding);
-    const XmlTagScan::Result tags = XmlTagScan::scan(text, maximumAttributes);
-    if (tags.documentType)
-        return errorAt(QString::fromLatin1(documentTypeNotAllowed), text, *tags.documentType);
-    if (tags.overlongTag)
-        return errorAt(QStringLiteral("A tag has too many attributes."), text, *tags.overlongTag);
-    if (tags.schemaHints.empty())
-        return {};
+    QString text = codec.toUnicode(result.document.constData(), result.document.size(), &decoding);
+    XmlTagScan::Result tags =
+            XmlTagScan::scan(text, {maximumAttributes, maximumNodes, maximumDepth, maximumNames});
+    if (tags.refusal)
+        result.refusal =
+                errorAt(QString::fromLatin1(tags.refusal->reason), text, tags.refusal->position);
+    if (tags.refusal || tags.schemaHints.empty())
+        return tags;
     for (const XmlTagScan::Range &hint : tags.schemaHints)
         blank(text, hint);
     QTextCodec::ConverterState encoding(QTextCodec::IgnoreHeader);
-    document = codec.fromUnicode(text.constData(), text.size(), &encoding);
-    return {};
+    result.document = codec.fromUnicode(text.constData(), text.size(), &encoding);
+    return tags;
+}
+
+Result refused(const char *reason)
+{
+    Result result;
+    result.refusal = XmlError{QString::fromLatin1(reason), 0, 0, 0};
+    return result;
 }
 
 } // namespace
 
 Result screen(const QByteArray &document)
 {
+    if (document.size() > maximumSize)
+        return refused("The file is too large.");
+    QTextCodec *codec = scanCodec(document);
+    if (codec == nullptr || !declaresReadableEncoding(document, codec->name().startsWith("UTF-16")))
+        return refused("The encoding is not supported.");
+
     Result result;
     result.document = document;
-    if (document.size() > maximumSize) {
-        result.refusal = XmlError{QStringLiteral("The file is too large."), 0, 0, 0};
-        return result;
+    XmlTagScan::Result tags = scanTags(result, *codec);
+    result.names = std::move(tags.names);
+    if (!result.refusal && tags.hasNamespaces) {
+        NamespaceScreener screener(result.document);
+        result.refusal = screener.run();
+        result.names = screener.takeNames();
     }
-    QTextCodec *codec = scanCodec(document);
-    if (codec == nullptr) {
-        result.refusal = XmlError{QString::fromLatin1(unsupportedEncoding), 0, 0, 0};
-        return result;
-    }
-    result.refusal = scanTags(result.document, *codec);
-    if (result.refusal)
-        return result;
-    Screener screener(result.document, codec->name().startsWith("UTF-16"));
-    result.refusal = screener.run();
-    result.names = screener.takeNames();
     return result;
 }
 

@@ -17,8 +17,8 @@ namespace XmlScreening {
 
 /// The largest document, in bytes, that is read at all.
 constexpr qint64 maximumSize = 64 * 1024 * 1024;
-/// How many elements, attributes, comments, texts and the like a document may have; a base file
-/// has six for each action.
+/// How many elements, attributes, comments, texts and the like a document may have together; a base
+/// file has five for each action.
 constexpr int maximumNodes = 1000000;
 /// How deep elements may be nested.
 constexpr int maximumDepth = 100;
@@ -26,7 +26,7 @@ constexpr int maximumDepth = 100;
 constexpr int maximumAttributes = 200;
 /// How many different names, prefixes, namespaces and targets of processing instructions a document
 /// may use; the processor has room for 4095 names and 510 prefixes.
-constexpr int maximumNames = 400;
+constexpr std::size_t maximumNames = 400;
 
 struct Result {
     /// The document without the attributes in which it names a schema of its own; these are blanked

@@ -2,11 +2,14 @@
 
 #include <QSet>
 
+#include <utility>
+
 namespace CUI::XmlTagScan {
 
 namespace {
 
 const QLatin1String schemaInstanceNamespace("http://www.w3.org/2001/XMLSchema-instance");
+const QLatin1String declaration("xmlns");
 const QLatin1String declarationPrefix("xmlns:");
 
 bool isSpace(QChar c)
@@ -18,26 +21,30 @@ bool isSpace(QChar c)
 bool endsName(QChar c)
 {
     return isSpace(c) || c == QLatin1Char('=') || c == QLatin1Char('>') || c == QLatin1Char('/')
-           || c == QLatin1Char('<') || c == QLatin1Char('"') || c == QLatin1Char('\'');
+           || c == QLatin1Char('?') || c == QLatin1Char('<') || c == QLatin1Char('"')
+           || c == QLatin1Char('\'');
 }
 
 class Scanner
 {
 public:
-    Scanner(const QString &text, int maximumAttributes)
-        : m_text(text), m_maximumAttributes(maximumAttributes)
-    {
-    }
+    Scanner(const QString &text, const Limits &limits) : m_text(text), m_limits(limits) { }
 
     Result run()
     {
-        while (findNext(QLatin1Char('<')) && skipMarkup()) { }
+        int end = 0;
+        while (findNext(QLatin1Char('<'))) {
+            const bool hasText = m_position > end;
+            if (!count(hasText ? 2 : 1, m_position) || !skipMarkup())
+                break;
+            end = m_position;
+        }
         // A prefix may be declared by a later attribute of the same tag.
         for (const Hint &hint : m_hints) {
             if (m_schemaPrefixes.contains(hint.prefix))
                 m_result.schemaHints.push_back(hint.range);
         }
-        return m_result;
+        return std::move(m_result);
     }
 
 private:
@@ -45,6 +52,29 @@ private:
         QStringRef prefix;
         Range range;
     };
+
+    bool refuse(const char *reason, int position)
+    {
+        m_result.refusal = Refusal{reason, position};
+        return false;
+    }
+
+    bool count(int nodes, int position)
+    {
+        m_nodes += nodes;
+        return m_nodes <= m_limits.nodes || refuse("The document has too many elements.", position);
+    }
+
+    bool remember(const QStringRef &name, int position)
+    {
+        if (m_result.names.find(name) == m_result.names.end()) {
+            m_result.names.insert(name.toString());
+            m_result.hasNamespaces = m_result.hasNamespaces || name.contains(QLatin1Char(':'))
+                                     || name == declaration;
+        }
+        return m_result.names.size() <= m_limits.names
+               || refuse("The document has too many different names.", position);
+    }
 
     bool findNext(QChar c)
     {
@@ -66,7 +96,10 @@ private:
         return m_text.midRef(m_position).startsWith(QLatin1String(text));
     }
 
-    bool isAt(QChar c) const { return m_position < m_text.size() && m_text.at(m_position) == c; }
+    bool isAt(char c) const
+    {
+        return m_position < m_text.size() && m_text.at(m_position) == QLatin1Char(c);
+    }
 
     void skipSpaces()
     {
@@ -85,36 +118,44 @@ private:
     // From a '<' past the end of its comment, instruction, section or tag.
     bool skipMarkup()
     {
+        const int start = m_position;
         if (startsWith("<!--")) {
             m_position += 4; // the dashes of the start are not those of the end
             return skipPast("-->");
         }
         if (startsWith("<![CDATA["))
             return skipPast("]]>");
-        if (startsWith("<?"))
-            return skipPast("?>");
-        if (!startsWith("<!"))
+        if (startsWith("<!"))
+            return refuse("A document type declaration is not allowed.", start);
+        if (!startsWith("<?"))
             return skipTag();
-        m_result.documentType = m_position;
-        return false;
+        m_position += 2;
+        return remember(takeName(), start) && skipPast("?>");
     }
 
     bool skipTag()
     {
         const int start = m_position++;
-        if (isAt(QLatin1Char('/')))
+        const bool isEnd = isAt('/');
+        if (isEnd)
             ++m_position;
-        takeName();
+        else if (++m_depth > m_limits.depth)
+            return refuse("Elements are nested too deeply.", start);
+        if (!remember(takeName(), start))
+            return false;
         for (int attributes = 0;; ++attributes) {
             skipSpaces();
-            if (isAt(QLatin1Char('/')))
+            const bool isEmpty = isAt('/');
+            if (isEmpty)
                 ++m_position;
-            if (isAt(QLatin1Char('>')))
+            if (isAt('>')) {
+                if (isEnd || isEmpty)
+                    --m_depth;
+                ++m_position;
                 return true;
-            if (attributes == m_maximumAttributes) {
-                m_result.overlongTag = start;
-                return false;
             }
+            if (attributes == m_limits.attributes)
+                return refuse("A tag has too many attributes.", start);
             if (!skipAttribute())
                 return false;
         }
@@ -125,11 +166,11 @@ private:
         const int start = m_position;
         const QStringRef name = takeName();
         skipSpaces();
-        if (name.isEmpty() || !isAt(QLatin1Char('=')))
+        if (name.isEmpty() || !isAt('='))
             return false;
         ++m_position;
         skipSpaces();
-        if (!isAt(QLatin1Char('"')) && !isAt(QLatin1Char('\'')))
+        if (!isAt('"') && !isAt('\''))
             return false;
         const QChar quote = m_text.at(m_position++);
         const int valueStart = m_position;
@@ -137,8 +178,11 @@ private:
             return false;
         const QStringRef value = m_text.midRef(valueStart, m_position - valueStart);
         ++m_position;
+        // Nothing may be noted of a place where readers stop: blanking it would let them go on.
+        if (value.contains(QLatin1Char('<')) || !count(1, start) || !remember(name, start))
+            return false;
         note(name, value, {start, m_position - start});
-        return !value.contains(QLatin1Char('<'));
+        return true;
     }
 
     void note(const QStringRef &name, const QStringRef &value, Range range)
@@ -157,8 +201,10 @@ private:
     }
 
     const QString &m_text;
-    const int m_maximumAttributes;
+    const Limits &m_limits;
     int m_position = 0;
+    int m_depth = 0;
+    int m_nodes = 0;
     QSet<QStringRef> m_schemaPrefixes;
     std::vector<Hint> m_hints;
     Result m_result;
@@ -166,9 +212,9 @@ private:
 
 } // namespace
 
-Result scan(const QString &text, int maximumAttributes)
+Result scan(const QString &text, const Limits &limits)
 {
-    return Scanner(text, maximumAttributes).run();
+    return Scanner(text, limits).run();
 }
 
 } // namespace CUI::XmlTagScan

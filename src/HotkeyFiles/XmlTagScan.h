@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <optional>
+#include <set>
 #include <vector>
 
 namespace CUI {
@@ -10,24 +11,43 @@ namespace CUI {
 /// A look at the tags of an XML document before any reader builds something of them.
 namespace XmlTagScan {
 
+/// What a document may have.
+struct Limits {
+    int attributes = 0; ///< in one tag
+    int nodes = 0; ///< elements, attributes, texts, comments and the like together
+    int depth = 0; ///< of nested elements
+    std::size_t names = 0; ///< different ones
+};
+
 /// A piece of the text.
 struct Range {
     int start = 0;
     int length = 0;
 };
 
-struct Result {
-    /// The attributes in which the document names a schema of its own.
-    std::vector<Range> schemaHints;
-    /// Where the first tag with more attributes than allowed starts.
-    std::optional<int> overlongTag;
-    /// Where a document type declaration starts.
-    std::optional<int> documentType;
+struct Refusal {
+    const char *reason = nullptr;
+    int position = 0;
 };
 
-/// Scans @p text up to its end, to an overlong tag or a document type, or to the first place where
-/// it is not well-formed; no reader comes further than that.
-Result scan(const QString &text, int maximumAttributes);
+/// Names that can be looked up by a part of another text.
+using Names = std::set<QString, std::less<>>;
+
+struct Result {
+    /// The first thing that exceeds a limit or is a document type declaration. The scan ends there.
+    std::optional<Refusal> refusal;
+    /// The attributes in which the document names a schema of its own.
+    std::vector<Range> schemaHints;
+    /// The names of elements and attributes and the targets of instructions, as they are written.
+    Names names;
+    /// True when a name has a prefix or a namespace is declared. The names are not all that there
+    /// are then.
+    bool hasNamespaces = false;
+};
+
+/// Scans @p text up to its end or to the first place where it is not well-formed; no reader comes
+/// further than that.
+Result scan(const QString &text, const Limits &limits);
 
 } // namespace XmlTagScan
 } // namespace CUI

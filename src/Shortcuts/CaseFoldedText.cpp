@@ -18,7 +18,7 @@ std::uint32_t fold(std::uint32_t codePoint)
 
 } // namespace
 
-std::size_t CaseFoldedTextHash::operator()(const CaseFoldedText &key) const noexcept
+std::size_t CaseFoldedTextHash::operator()(const CaseFoldedText &key) const
 {
     std::uint64_t h = fnvOffset;
     QChar previous;

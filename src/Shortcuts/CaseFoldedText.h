@@ -18,8 +18,10 @@ inline bool operator==(const CaseFoldedText &a, const CaseFoldedText &b)
     return a.text.size() == b.text.size() && a.text.compare(b.text, Qt::CaseInsensitive) == 0;
 }
 
+/// Not declared noexcept: the standard library of GCC then keeps the hash of each key, and does not
+/// work it out again for every neighbour that a look-up passes.
 struct CaseFoldedTextHash {
-    std::size_t operator()(const CaseFoldedText &key) const noexcept;
+    std::size_t operator()(const CaseFoldedText &key) const;
 };
 
 } // namespace CUI

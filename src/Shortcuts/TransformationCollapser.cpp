@@ -18,7 +18,7 @@ bool TransformationCollapser::StepKey::operator==(const StepKey &other) const
     return actionId == other.actionId && shortcut == other.shortcut;
 }
 
-std::size_t TransformationCollapser::StepKeyHash::operator()(const StepKey &key) const noexcept
+std::size_t TransformationCollapser::StepKeyHash::operator()(const StepKey &key) const
 {
     return std::hash<ActionIdentifier>()(key.actionId) * 31U + qHash(key.shortcut, 0U);
 }
@@ -26,6 +26,7 @@ std::size_t TransformationCollapser::StepKeyHash::operator()(const StepKey &key)
 void TransformationCollapser::collapse(Steps &steps, std::size_t start)
 {
     TransformationCollapser collapser;
+    collapser.m_openSteps.reserve(steps.size());
     collapser.settle(steps, start);
     collapser.compact(steps);
 }

@@ -11,7 +11,7 @@
 namespace CUI {
 
 /// Cancels opposite steps: a step and the first later one of the opposite kind for the same action
-/// and hotkey both vanish, and repetitions of the step before that opposite with them. The others
+/// and hotkey both vanish; a repetition of a step that is still open vanishes by itself. The others
 /// keep their order.
 ///
 /// The steps of one action and hotkey never touch those of another, so one pass that remembers the
@@ -54,8 +54,9 @@ private:
         QString shortcut;
         bool operator==(const StepKey &other) const;
     };
+    // Not noexcept, so that the map keeps the hashes; see CaseFoldedTextHash.
     struct StepKeyHash {
-        std::size_t operator()(const StepKey &key) const noexcept;
+        std::size_t operator()(const StepKey &key) const;
     };
 
     void settleStep(const Steps &steps, std::size_t position);

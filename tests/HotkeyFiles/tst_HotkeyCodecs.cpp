@@ -5,6 +5,8 @@
 #include <QBuffer>
 #include <QtTest>
 
+#include <algorithm>
+
 using CUI::ActionIdentifier;
 using CUI::ShortcutTransformation;
 namespace BaseHotkeyFile = CUI::BaseHotkeyFile;
@@ -47,6 +49,32 @@ QString text(const HotkeySetFile::Content &content)
     return result;
 }
 
+/// Counts the bytes that are read from it, and gives at most so many at a time.
+class CountingDevice : public QIODevice
+{
+public:
+    CountingDevice(const QByteArray &bytes, int blockSize) : m_bytes(bytes), m_blockSize(blockSize)
+    {
+        open(ReadOnly | Unbuffered);
+    }
+    int bytesRead() const { return m_position; }
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        const qint64 length = std::min<qint64>({size, m_blockSize, m_bytes.size() - m_position});
+        std::copy_n(m_bytes.constData() + m_position, length, data);
+        m_position += static_cast<int>(length);
+        return length;
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    QByteArray m_bytes;
+    int m_blockSize;
+    int m_position = 0;
+};
+
 const char *const bomb = "<!DOCTYPE r [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;\">]>\n";
 
 } // namespace
@@ -63,6 +91,7 @@ private Q_SLOTS:
     void readsSet();
     void readsMetadata_data();
     void readsMetadata();
+    void readsNoStepForMetadata();
     void writesSet();
     void refusesCharactersThatXmlCannotHold_data();
     void refusesCharactersThatXmlCannotHold();
@@ -196,6 +225,36 @@ void TestHotkeyCodecs::readsMetadata()
             metadata ? metadata->description + (metadata->locked ? s("/locked") : s("/open"))
                      : QString();
     QTEST(found, "metadata");
+}
+
+void TestHotkeyCodecs::readsNoStepForMetadata()
+{
+    std::vector<ShortcutTransformation> steps;
+    for (int i = 0; i < 10000; ++i)
+        steps.emplace_back(ShortcutTransformation::Assign,
+                           ActionIdentifier{1, s("action%1").arg(i)}, s("Ctrl+Z"), s("Action"));
+    QBuffer buffer;
+    buffer.open(QIODevice::ReadWrite);
+    QVERIFY(HotkeySetFile::write(buffer, steps, HotkeySetFile::LockAttribute::WriteUnlocked));
+    QByteArray document = buffer.data();
+    document.replace("Locked=\"false\"", "Locked=\"true\" Description=\"Many\"");
+
+    constexpr int blockSize = 64;
+    CountingDevice device(document, blockSize);
+    const auto metadata = HotkeySetFile::readMetadata(device);
+    QVERIFY(metadata && metadata->locked);
+    QCOMPARE(metadata->description, s("Many"));
+    const int endOfRootTag = document.indexOf("\"Many\">") + 7;
+    QVERIFY2(device.bytesRead() >= endOfRootTag && device.bytesRead() < endOfRootTag + blockSize,
+             qPrintable(s("%1 of %2 bytes read").arg(device.bytesRead()).arg(document.size())));
+
+    // A device that gives all it is asked for is asked for one block of the toolkit's reader.
+    CountingDevice file(document, document.size());
+    QVERIFY(HotkeySetFile::readMetadata(file));
+    QVERIFY2(file.bytesRead() <= 8192, qPrintable(QString::number(file.bytesRead())));
+    CountingDevice whole(document, document.size());
+    QCOMPARE(HotkeySetFile::read(whole).steps.size(), steps.size());
+    QCOMPARE(whole.bytesRead(), document.size());
 }
 
 void TestHotkeyCodecs::writesSet()

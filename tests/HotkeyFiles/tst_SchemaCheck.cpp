@@ -263,7 +263,7 @@ void TestSchemaCheck::refusesHostileDocuments_data()
         "The document has too many different names.");
     row("prefixes", "<VLSK_KBD>" + prefixes + "</VLSK_KBD>",
         "The document has too many different names.");
-    row("elements", "<VLSK_KBD>" + repeated("<a/>", 600000) + "</VLSK_KBD>",
+    row("elements", "<VLSK_KBD>" + repeated("<a/>", 1100000) + "</VLSK_KBD>",
         "The document has too many elements.");
     row("comments", "<VLSK_KBD>" + repeated("<!---->", 1100000) + "</VLSK_KBD>",
         "The document has too many elements.");
@@ -271,6 +271,11 @@ void TestSchemaCheck::refusesHostileDocuments_data()
     for (int i = 0; i < 40000; ++i)
         instructions += "<?p" + QByteArray::number(i) + "?>";
     row("instructions", instructions + "<VLSK_KBD/>", "The document has too many different names.");
+    // Blanking a hint that is not well-formed would let the reader go on to tags nobody looked at.
+    row("markup in a hint",
+        "<VLSK_KBD" + QByteArray(schemaInstance) + " xsi:schemaLocation='a <'><a" + attributes
+                + "/></VLSK_KBD>",
+        "");
     QByteArray hidden;
     for (int i = 0; i < 40000; ++i) // U+3C41 has the byte of '<' in it
         hidden += " a" + QByteArray::number(i) + "='\xe3\xb1\x81'";
