@@ -65,8 +65,18 @@ Content read(QIODevice &device)
 
 std::optional<Metadata> readMetadata(QIODevice &device)
 {
-    QXmlStreamReader reader(&device);
-    if (!XmlReading::readRoot(reader) || reader.name() != rootName)
+    // Given the device itself, the reader would fetch a large block of steps ahead.
+    constexpr qint64 pieceSize = 1024;
+    QXmlStreamReader reader;
+    bool isAtRoot = false;
+    do {
+        const QByteArray piece = device.read(pieceSize);
+        if (piece.isEmpty())
+            return {};
+        reader.addData(piece);
+        isAtRoot = XmlReading::readRoot(reader);
+    } while (!isAtRoot && reader.error() == QXmlStreamReader::PrematureEndOfDocumentError);
+    if (!isAtRoot || reader.name() != rootName)
         return {};
     const QXmlStreamAttributes attributes = reader.attributes();
     const QStringRef locked = attributes.value(lockedAttribute);

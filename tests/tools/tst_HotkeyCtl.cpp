@@ -105,6 +105,21 @@ void HotkeyCtlTest::refusesWrongUsage_data()
     row("steps 1-cut", "steps takes no argument");
     row("base", "base takes FILE");
     row("validate", "validate takes FILE...");
+    row("sets Mine", "sets takes [--format FORMAT]");
+    row("sets --format csv", "--format takes text or json, not 'csv'");
+    row("use", "use takes SET");
+    row("diff base", "diff takes A B");
+    row("diff base base --format csv", "--format takes text or json, not 'csv'");
+    row("show", "show takes FILE");
+    const auto emptyRow = [](const char *arguments, const char *error) {
+        QTest::newRow(arguments) << (words(arguments) << QString()) << QString::fromUtf8(error);
+    };
+    emptyRow("use ", "SET is empty");
+    emptyRow("show ", "FILE is empty");
+    emptyRow("diff base", "the name of a set is empty");
+    emptyRow("convert a.kbdx", "the name of a file is empty");
+    row("convert", "convert takes IN.kbdx [OUT.hsx] [--force]");
+    row("convert a.kbdx b.hsx c.hsx", "convert takes IN.kbdx [OUT.hsx] [--force]");
 }
 
 void HotkeyCtlTest::refusesWrongUsage()
@@ -130,7 +145,7 @@ void HotkeyCtlTest::tellsProblemsWithTheData_data()
     // @ stands for the folder.
     row("--host @/nowhere list", "/nowhere: is not a directory");
     row("--host @/typo steps", "/typo/host.json: actions[0].table: is missing");
-    row("--set nowhere.hsx list", "nowhere.hsx: the hotkey set cannot be opened");
+    row("--set nowhere.hsx list", "there is neither a file nor a hotkey set 'nowhere.hsx'; ");
     row("--set @/broken.hsx list", "/broken.hsx: the hotkey set cannot be loaded");
     row("list --context Nowhere", "there is no context 'Nowhere'; there are: View, Editing");
     row("owner F1 --context view", "there is no context 'view'; there are: View, Editing");
@@ -265,7 +280,8 @@ void HotkeyCtlTest::runsAsAProcess()
     QCOMPARE(missing.code, 1);
     QCOMPARE(missing.out, QString());
     QCOMPARE(missing.err,
-             QStringLiteral("hotkeyctl: nowhere.hsx: the hotkey set cannot be opened\n"));
+             QStringLiteral("hotkeyctl: there is neither a file nor a hotkey set 'nowhere.hsx'; "
+                            "the sets are: Velstudio Default Keyset, Zarvi Default Keyset\n"));
 }
 
 void HotkeyCtlTest::saysWhenTheSchemasAreMissing()

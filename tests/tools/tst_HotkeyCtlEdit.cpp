@@ -156,6 +156,7 @@ void HotkeyCtlEditTest::leavesFilesThatAreNotToBeReplaced_data()
     row(assign, "locked.hsx", "is not written, because the set 'locked' in it is locked");
     row(assign, "link.hsx", "is not written, because the set 'link' in it is locked");
     row(assign, "shipped-link.hsx", "is not written, because the sets in its folder are ");
+    row(assign, "read-only.hsx", "is not written, because it is read-only");
     row(assign, "notes.txt", "is not written, because it is not a hotkey set");
     row(assign, "host/base/base.hsxb", "is not written, because it is not a hotkey set");
     row(assign, "host/presets/New.hsx", "is not written, because the sets in its folder are ");
@@ -184,6 +185,8 @@ void HotkeyCtlEditTest::leavesFilesThatAreNotToBeReplaced()
     QVERIFY(QFile::link(m_host->path(QStringLiteral("host/presets")),
                         m_host->path(QStringLiteral("folder-link"))));
     m_host->write(QStringLiteral("notes.txt"), "to do");
+    QVERIFY(QFile::setPermissions(m_host->writeSet(QStringLiteral("read-only.hsx"), ""),
+                                  QFileDevice::ReadOwner));
     const QStringList before = m_host->snapshot(QString());
     QVERIFY(before.contains(m_host->path(QStringLiteral("notes.txt")) + QStringLiteral("=to do")));
 

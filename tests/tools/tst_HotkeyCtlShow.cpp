@@ -105,11 +105,10 @@ void HotkeyCtlShowTest::listsNamesThatNeedCare()
     QVERIFY(m_host.run(options + words("list --format csv"))
                     .out.contains(QStringLiteral("\r\n1,\u8996\u91ce,\"x,y\",\"e\u0301 "
                                                  "\"\"q\"\"\\\n\u001b\",1-a,\",, \"\"\",")));
-    QCOMPARE(
-            m_host.run(options + words("list")).lines(),
-            QStringList({QStringLiteral("CONTEXT  ACTION    ID   HOTKEYS  CHANGED FROM"),
-                         QStringLiteral("\u8996\u91ce     e\u0301 \"q\"\\\ufffd\ufffd  1-a  ,, \""),
-                         QStringLiteral("\u8996\u91ce     \U0001f600        1-b")}));
+    QCOMPARE(m_host.run(options + words("list")).lines(),
+             QStringList({QStringLiteral("CONTEXT  ACTION          ID   HOTKEYS  CHANGED FROM"),
+                          QStringLiteral("\u8996\u91ce     e\u0301 \"q\"\\\\n\\u001b  1-a  ,, \""),
+                          QStringLiteral("\u8996\u91ce     \U0001f600              1-b")}));
 }
 
 void HotkeyCtlShowTest::jsonHoldsWhatTheStoreHolds()

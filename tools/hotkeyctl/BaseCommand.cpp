@@ -6,7 +6,6 @@
 
 #include <QCommandLineParser>
 #include <QFile>
-#include <QSaveFile>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -44,11 +43,9 @@ ExitCode run(const QCommandLineParser &line, Session &session)
         return session.problem(
                 QStringLiteral("the base hotkeys cannot be written as a valid base file"));
     }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(*text) != text->size() || !file.commit()) {
-        return session.problem(
-                QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString()));
-    }
+    const QString error = writeWhole(path, *text);
+    if (!error.isEmpty())
+        return session.problem(QStringLiteral("%1: cannot be written: %2").arg(path, error));
     session.out() << "Saved as " << printable(path) << ".\n";
     return ExitCode::Done;
 }

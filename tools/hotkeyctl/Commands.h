@@ -13,6 +13,11 @@ Command unassignCommand();
 Command stepsCommand();
 Command baseCommand();
 Command validateCommand();
+Command setsCommand();
+Command useCommand();
+Command diffCommand();
+Command showCommand();
+Command convertCommand();
 
 /// All commands, in the order in which the help lists them.
 const std::vector<Command> &commands();

@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "ActionRows.h"
 #include "Session.h"
 #include "TextOutput.h"
 
@@ -7,70 +8,27 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <tuple>
 
 namespace HotkeyCtl {
 
 namespace {
 
-struct Row {
-    unsigned long contextId = 0;
-    QString context;
-    QString category;
-    QString action;
-    CUI::ActionIdentifier id;
+struct Row : ActionRow {
     QStringList hotkeys;
     QStringList baseHotkeys;
     bool changed = false;
 };
 
-bool operator<(const Row &a, const Row &b)
-{
-    return std::tie(a.context, a.contextId, a.action, a.id)
-           < std::tie(b.context, b.contextId, b.action, b.id);
-}
-
-bool differ(QStringList a, QStringList b)
-{
-    a.sort();
-    b.sort();
-    return a != b;
-}
-
 std::vector<Row> rowsOf(const Session &session,
                         const std::vector<Host::HostCatalogue::Context> &contexts)
 {
     std::vector<Row> rows;
-    for (const Host::HostCatalogue::Action &action : session.catalogue().actions) {
-        const auto context = std::find_if(contexts.begin(), contexts.end(),
-                                          [&action](const Host::HostCatalogue::Context &c) {
-                                              return c.id == action.contextId;
-                                          });
-        if (context == contexts.end())
-            continue;
-        Row row;
-        row.contextId = action.contextId;
-        row.context = context->name;
-        row.category = action.category;
-        row.action = action.name;
-        row.id = action.identifier;
-        row.hotkeys = session.hotkeys(action.identifier);
-        row.baseHotkeys = session.baseHotkeys(action.identifier);
-        row.changed = differ(row.hotkeys, row.baseHotkeys);
-        rows.push_back(row);
+    for (const ActionRow &action : actionRows(session, contexts)) {
+        const QStringList hotkeys = session.hotkeys(action.id);
+        const QStringList baseHotkeys = session.baseHotkeys(action.id);
+        rows.push_back({action, hotkeys, baseHotkeys, differ(hotkeys, baseHotkeys)});
     }
-    std::sort(rows.begin(), rows.end());
     return rows;
-}
-
-QString joined(const QStringList &hotkeys)
-{
-    return hotkeys.join(QLatin1String(", "));
-}
-
-QString boolText(bool value)
-{
-    return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
 void printText(const std::vector<Row> &rows, QTextStream &out)
@@ -101,23 +59,15 @@ void printCsv(const std::vector<Row> &rows, QTextStream &out)
     }
 }
 
-// QJsonDocument would sort the keys.
 void printJson(const std::vector<Row> &rows, QTextStream &out)
 {
     QStringList objects;
     for (const Row &row : rows) {
-        objects << QStringLiteral("{\"contextId\": %1, \"context\": %2, \"category\": %3, "
-                                  "\"action\": %4, \"id\": %5, \"hotkeys\": %6, "
-                                  "\"baseHotkeys\": %7, \"changed\": %8}")
-                           .arg(QString::number(row.contextId), jsonString(row.context),
-                                jsonString(row.category), jsonString(row.action),
-                                jsonString(row.id.toString()), jsonArray(row.hotkeys),
+        objects << QStringLiteral("{%1, \"hotkeys\": %2, \"baseHotkeys\": %3, \"changed\": %4}")
+                           .arg(jsonMembers(row), jsonArray(row.hotkeys),
                                 jsonArray(row.baseHotkeys), boolText(row.changed));
     }
-    out << '[';
-    if (!objects.isEmpty())
-        out << "\n  " << objects.join(QLatin1String(",\n  ")) << '\n';
-    out << "]\n";
+    out << jsonLines(objects);
 }
 
 ExitCode run(const QCommandLineParser &line, Session &session)

@@ -1,5 +1,7 @@
 #include "LogPrinter.h"
 
+#include "TextOutput.h"
+
 #include <UiCustomizations/QvelMessageLog.h>
 
 #include <QTextStream>
@@ -8,12 +10,11 @@
 
 namespace HotkeyCtl {
 
-LogPrinter::LogPrinter(QTextStream &stream, int level) : m_stream(stream), m_silent(level == 0)
+LogPrinter::LogPrinter(QTextStream &stream, int level) : m_stream(stream), m_level(level)
 {
-    CUI::QvelMessageLog &log = CUI::QvelMessageLog::getInstance();
-    log.setMessageLogLevel(static_cast<CUI::QvelMessageLog::MessageType>(
-            std::max<int>(level, CUI::QvelMessageLog::Error)));
-    m_connection = QObject::connect(&log, &CUI::QvelMessageLog::messageLogged,
+    dropAllButErrors(false);
+    m_connection = QObject::connect(&CUI::QvelMessageLog::getInstance(),
+                                    &CUI::QvelMessageLog::messageLogged,
                                     [this](const QString &line) { takeLine(line); });
 }
 
@@ -23,6 +24,14 @@ LogPrinter::~LogPrinter()
     CUI::QvelMessageLog::getInstance().setMessageLogLevel(CUI::QvelMessageLog::Warning);
 }
 
+void LogPrinter::dropAllButErrors(bool drop)
+{
+    const int level =
+            drop ? CUI::QvelMessageLog::Error : std::max<int>(m_level, CUI::QvelMessageLog::Error);
+    CUI::QvelMessageLog::getInstance().setMessageLogLevel(
+            static_cast<CUI::QvelMessageLog::MessageType>(level));
+}
+
 void LogPrinter::takeLine(const QString &line)
 {
     const QLatin1String error("Error: ");
@@ -30,8 +39,11 @@ void LogPrinter::takeLine(const QString &line)
         ++m_errorCount;
         m_lastError = line.mid(error.size());
     }
-    if (!m_silent)
-        m_stream << line << '\n';
+    if (m_level == 0)
+        return;
+    // Some messages have several lines, but they also name files in whatever way these are called.
+    for (const QString &part : line.split(QLatin1Char('\n')))
+        m_stream << printable(part) << '\n';
 }
 
 } // namespace HotkeyCtl

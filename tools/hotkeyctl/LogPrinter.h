@@ -18,6 +18,9 @@ public:
     LogPrinter(const LogPrinter &) = delete;
     LogPrinter &operator=(const LogPrinter &) = delete;
 
+    /// Drops everything but errors until the next call with false.
+    void dropAllButErrors(bool drop);
+
     int errorCount() const { return m_errorCount; }
     /// The last error, without the word in front.
     QString lastError() const { return m_lastError; }
@@ -26,7 +29,7 @@ private:
     void takeLine(const QString &line);
 
     QTextStream &m_stream;
-    bool m_silent;
+    int m_level;
     int m_errorCount = 0;
     QString m_lastError;
     QMetaObject::Connection m_connection;

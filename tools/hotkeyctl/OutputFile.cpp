@@ -1,7 +1,10 @@
 #include "OutputFile.h"
 
+#include <UiCustomizations/Preset.h>
+
 #include <QDir>
 #include <QFileInfo>
+#include <QSaveFile>
 
 namespace HotkeyCtl {
 
@@ -28,6 +31,8 @@ QString reasonAgainstPlace(const QString &path, const QString &presetDirectory)
         return QStringLiteral("its folder does not exist");
     if (liesBelow(path, presetDirectory))
         return QStringLiteral("the sets in its folder are shipped with the host");
+    if (CUI::Preset::isFileReadOnly(path))
+        return QStringLiteral("it is read-only");
     return {};
 }
 
@@ -58,6 +63,16 @@ QString reasonAgainstReplacingBase(const QString &path, const QString &presetDir
     return CUI::QvelShortcutManager::validateShortcuts(path)
                    ? QString()
                    : QStringLiteral("it is not a base hotkey file");
+}
+
+QString writeWhole(const QString &path, const QByteArray &contents)
+{
+    QSaveFile file(path);
+    // Only flushing tells whether the last bytes could be written.
+    if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush()
+        && file.commit())
+        return {};
+    return file.errorString();
 }
 
 } // namespace HotkeyCtl

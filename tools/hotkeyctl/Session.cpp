@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include "SampleHost.h"
+#include "SetSearch.h"
 #include "TextOutput.h"
 
 #include <QFile>
@@ -48,10 +49,10 @@ ExitCode Session::wrongUsage(const QString &text) const
 
 Session::Loading Session::load()
 {
-    if (!openHost())
+    if (!open())
         return Loading::Failed;
     const bool hasBase = loadBaseFiles();
-    const bool hasSet = loadSet();
+    const bool hasSet = loadChosenSet();
     if (!hasSet && m_options.set)
         return Loading::Failed;
     return hasBase && hasSet ? Loading::Complete : Loading::Incomplete;
@@ -59,23 +60,28 @@ Session::Loading Session::load()
 
 bool Session::loadBase()
 {
-    return openHost() && loadBaseFiles();
+    return open() && loadBaseFiles();
 }
 
-bool Session::openHost()
+bool Session::open(Host::HostPathManager::Record record)
 {
     m_host = std::make_unique<Host::SampleHost>(m_options.hostDirectory, m_options.userDirectory,
-                                                Host::HostPathManager::Record::InMemory);
+                                                record);
     if (m_host->load())
         return true;
     problem(m_host->errorText());
     return false;
 }
 
+void Session::close()
+{
+    m_host.reset();
+}
+
 bool Session::loadBaseFiles()
 {
     bool complete = true;
-    for (const QString &path : m_host->paths()->getBaseHotkeyFiles()) {
+    for (const QString &path : paths().getBaseHotkeyFiles()) {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly)) {
             problem(QStringLiteral("%1: cannot be opened: %2").arg(path, file.errorString()));
@@ -84,10 +90,9 @@ bool Session::loadBaseFiles()
     }
     const int errorsBefore = m_log.errorCount();
     // The current set is loaded apart, because only loading a set alone tells whether it worked.
-    const QString currentSet =
-            m_host->paths()->getCurrentConfigurationFile(CUI::ConfigType::HotkeySet);
+    const QString currentSet = paths().getCurrentConfigurationFile(CUI::ConfigType::HotkeySet);
     m_store.loadShortcutConfiguration(QString());
-    m_host->paths()->setCurrentConfigurationFile(CUI::ConfigType::HotkeySet, currentSet);
+    paths().setCurrentConfigurationFile(CUI::ConfigType::HotkeySet, currentSet);
     m_base = m_store.getShortcuts();
     if (m_log.errorCount() > errorsBefore) {
         problem(QStringLiteral("a base file cannot be loaded: %1")
@@ -97,14 +102,18 @@ bool Session::loadBaseFiles()
     return complete;
 }
 
-bool Session::loadSet()
+bool Session::loadChosenSet()
 {
-    const QString path =
-            m_options.set
-                    ? *m_options.set
-                    : m_host->paths()->getCurrentConfigurationFile(CUI::ConfigType::HotkeySet);
-    if (path.isEmpty())
-        return true;
+    std::optional<QString> path = m_options.set;
+    if (!path)
+        path = paths().getCurrentConfigurationFile(CUI::ConfigType::HotkeySet);
+    else if (!path->isEmpty())
+        path = findSet(*this, *path);
+    return path && (path->isEmpty() || loadSet(*path));
+}
+
+bool Session::loadSet(const QString &path)
+{
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         problem(QStringLiteral("%1: the hotkey set cannot be opened").arg(path));
@@ -123,9 +132,14 @@ const Host::HostCatalogue &Session::catalogue() const
     return m_host->catalogue();
 }
 
+Host::HostPathManager &Session::paths() const
+{
+    return *m_host->paths();
+}
+
 QString Session::presetDirectory() const
 {
-    return m_host->paths()->getDefaultPresetDirectory();
+    return paths().getDefaultPresetDirectory();
 }
 
 QStringList Session::hotkeys(const CUI::ActionIdentifier &identifier) const
@@ -150,9 +164,9 @@ const Host::HostCatalogue::Action *Session::findAction(const QString &text) cons
 
 QString Session::describe(const CUI::ActionIdentifier &identifier) const
 {
+    const QString id = printable(identifier.toString());
     const Host::HostCatalogue::Action *action = findAction(identifier.toString());
-    return QStringLiteral("%1 (%2)").arg(printable(action == nullptr ? QString() : action->name),
-                                         printable(identifier.toString()));
+    return action == nullptr ? id : QStringLiteral("%1 (%2)").arg(printable(action->name), id);
 }
 
 QString Session::contextName(unsigned long contextId) const

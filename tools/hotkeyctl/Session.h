@@ -2,6 +2,7 @@
 
 #include "ExitCode.h"
 #include "HostCatalogue.h"
+#include "HostPathManager.h"
 #include "LogPrinter.h"
 
 #include <UiCustomizations/QvelShortcutManager.h>
@@ -22,7 +23,7 @@ namespace HotkeyCtl {
 struct SessionOptions {
     QString hostDirectory;
     QString userDirectory;
-    /// The set to work on instead of the current one; empty for none.
+    /// The set to work on instead of the current one, by path or name; empty for none.
     std::optional<QString> set;
     /// 0 to 4: the least severe log line that is printed.
     int logLevel = 2;
@@ -30,8 +31,8 @@ struct SessionOptions {
     QString command;
 };
 
-/// One run of a command: its streams, and the host and the hotkeys it works on. Nothing of it
-/// changes which set is current, or anything else on disk.
+/// One run of a command: its streams, and the host and the hotkeys it works on. Unless it is opened
+/// with a record on disk, nothing of it changes which set is current.
 class Session
 {
 public:
@@ -49,21 +50,30 @@ public:
 
     QTextStream &out() const { return m_out; }
     const LogPrinter &log() const { return m_log; }
+    LogPrinter &log() { return m_log; }
 
     /// Tells about a problem with the data, for the command to return.
     ExitCode problem(const QString &text) const;
     /// Tells what is wrong with the command line, for the command to return.
     ExitCode wrongUsage(const QString &text) const;
 
+    /// Opens the host and loads nothing; false, after telling why, when it is not usable.
+    bool open(Host::HostPathManager::Record record = Host::HostPathManager::Record::InMemory);
+    /// Uninstalls what open() has installed.
+    void close();
     /// Opens the host, loads its base and the set. Tells what went wrong. A set that the command
     /// line names must load; without the current one there is still the base.
     Loading load();
     /// Opens the host and loads its base alone; false, after telling why, when any of it failed.
     bool loadBase();
+    /// Puts the set @p path on top of the loaded base, in the place of one that is there. False,
+    /// after telling why, when it cannot be loaded.
+    bool loadSet(const QString &path);
 
-    /// \name After load() or loadBase()
+    /// \name After load(), loadBase() or open()
     /// @{
     const Host::HostCatalogue &catalogue() const;
+    Host::HostPathManager &paths() const;
     /// Where the host's own sets lie.
     QString presetDirectory() const;
     CUI::QvelShortcutManager &store() { return m_store; }
@@ -73,7 +83,7 @@ public:
     QStringList baseHotkeys(const CUI::ActionIdentifier &identifier) const;
     /// The action that @p text (1-undo) names; null when there is none.
     const Host::HostCatalogue::Action *findAction(const QString &text) const;
-    /// "Undo (1-undo)".
+    /// "Undo (1-undo)"; the identifier alone when there is no such action.
     QString describe(const CUI::ActionIdentifier &identifier) const;
     QString contextName(unsigned long contextId) const;
     /// The contexts with that name, or all of them without one. Nothing when no context has it,
@@ -83,9 +93,8 @@ public:
     /// @}
 
 private:
-    bool openHost();
     bool loadBaseFiles();
-    bool loadSet();
+    bool loadChosenSet();
 
     SessionOptions m_options;
     QTextStream &m_out;

@@ -1,7 +1,7 @@
 #include "Commands.h"
 
 #include "Session.h"
-#include "TextOutput.h"
+#include "SetSteps.h"
 
 #include <QTextStream>
 
@@ -15,7 +15,7 @@ ExitCode run(const QCommandLineParser &, Session &session)
     if (loading == Session::Loading::Failed)
         return ExitCode::Problem;
     for (const CUI::ShortcutTransformation &step : session.store().currentTransformations())
-        session.out() << printable(step.toString()) << '\n';
+        session.out() << stepLine(step, session.describe(step.actionId())) << '\n';
     return loading == Session::Loading::Complete ? ExitCode::Done : ExitCode::Problem;
 }
 

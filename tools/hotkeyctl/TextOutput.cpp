@@ -25,6 +25,26 @@ bool isWide(uint codePoint)
     });
 }
 
+bool steersTheTerminal(QChar c)
+{
+    return c.category() == QChar::Other_Control || c == QChar::LineSeparator
+           || c == QChar::ParagraphSeparator;
+}
+
+QString escaped(QChar c)
+{
+    switch (c.unicode()) {
+    case '\n':
+        return QStringLiteral("\\n");
+    case '\r':
+        return QStringLiteral("\\r");
+    case '\t':
+        return QStringLiteral("\\t");
+    default:
+        return QStringLiteral("\\u%1").arg(ushort(c.unicode()), 4, 16, QLatin1Char('0'));
+    }
+}
+
 bool isInvisible(uint codePoint)
 {
     switch (QChar::category(codePoint)) {
@@ -41,11 +61,12 @@ bool isInvisible(uint codePoint)
 
 QString printable(const QString &text)
 {
-    QString result = text;
-    for (QChar &c : result) {
-        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator
-            || c == QChar::ParagraphSeparator)
-            c = QChar(QChar::ReplacementCharacter);
+    QString result;
+    for (const QChar c : text) {
+        if (steersTheTerminal(c))
+            result += escaped(c);
+        else
+            result += c;
     }
     return result;
 }
@@ -97,7 +118,7 @@ QString jsonString(const QString &text)
             result += QLatin1Char('\\');
             result += c;
         } else if (c.unicode() < 0x20 || c.isSurrogate()) {
-            result += QStringLiteral("\\u%1").arg(ushort(c.unicode()), 4, 16, QLatin1Char('0'));
+            result += escaped(c);
         } else {
             result += c;
         }
@@ -111,6 +132,18 @@ QString jsonArray(const QStringList &texts)
     for (const QString &text : texts)
         quoted << jsonString(text);
     return QLatin1Char('[') + quoted.join(QLatin1String(", ")) + QLatin1Char(']');
+}
+
+QString jsonLines(const QStringList &objects)
+{
+    if (objects.isEmpty())
+        return QStringLiteral("[]\n");
+    return QLatin1String("[\n  ") + objects.join(QLatin1String(",\n  ")) + QLatin1String("\n]\n");
+}
+
+QString boolText(bool value)
+{
+    return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
 QString csvRecord(const QStringList &fields)

@@ -5,8 +5,8 @@
 
 namespace HotkeyCtl {
 
-/// @p text on one line: control characters, which could end the line or steer the terminal, are
-/// replaced.
+/// @p text on one line: control characters, which could end the line or steer the terminal, stand
+/// there as \n, \r, \t or \u001b.
 QString printable(const QString &text);
 
 /// How many columns of a terminal @p text takes: two for East Asian wide characters and emoji, none
@@ -21,6 +21,12 @@ QString jsonString(const QString &text);
 
 /// The texts as a JSON array of strings.
 QString jsonArray(const QStringList &texts);
+
+/// The JSON objects as an array, one a line. (QJsonDocument would sort their keys.)
+QString jsonLines(const QStringList &objects);
+
+/// true or false, as JSON spells them.
+QString boolText(bool value);
 
 /// One CSV record (RFC 4180), line break included.
 QString csvRecord(const QStringList &fields);

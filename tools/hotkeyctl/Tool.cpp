@@ -38,9 +38,9 @@ QList<QCommandLineOption> programOptions()
              QStringLiteral("DIR")},
             {setOption,
              QStringLiteral(
-                     "The hotkey set on top of the base instead of the current one. An empty\n"
-                     "text means none."),
-             QStringLiteral("FILE")},
+                     "The hotkey set on top of the base instead of the current one, by path or by\n"
+                     "name. An empty text means none."),
+             QStringLiteral("SET")},
             {logLevel,
              QStringLiteral(
                      "The least severe line of the log on standard error: 1 error, 2 warning\n"

@@ -1,10 +1,10 @@
 #include "Commands.h"
 
+#include "FileFault.h"
 #include "Session.h"
 #include "TextOutput.h"
 
 #include <QCommandLineParser>
-#include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
 
@@ -13,8 +13,6 @@
 namespace HotkeyCtl {
 
 namespace {
-
-using Validation = bool (*)(const QString &path);
 
 Validation validationFor(const QString &path)
 {
@@ -28,32 +26,13 @@ Validation validationFor(const QString &path)
     return nullptr;
 }
 
-/// What is wrong with the file; null when it is valid.
-QString fault(const QString &path, const Session &session)
-{
-    const Validation validate = validationFor(path);
-    if (validate == nullptr)
-        return QStringLiteral("unknown kind of file");
-    QFile file(path);
-    if (QFileInfo(path).exists() && !QFileInfo(path).isFile())
-        return QStringLiteral("cannot be opened: Is not a regular file");
-    if (!file.open(QIODevice::ReadOnly))
-        return QStringLiteral("cannot be opened: %1").arg(file.errorString());
-    const int errorsBefore = session.log().errorCount();
-    if (validate(path))
-        return {};
-    if (session.log().errorCount() == errorsBefore)
-        return QStringLiteral("cannot be validated");
-    // The log's last line tells the fault and its place; the ones before it name the files.
-    return QStringLiteral("not valid: %1")
-            .arg(session.log().lastError().section(QLatin1Char('\n'), -1));
-}
-
 ExitCode run(const QCommandLineParser &line, Session &session)
 {
     ExitCode result = ExitCode::Done;
     for (const QString &path : line.positionalArguments()) {
-        const QString found = fault(path, session);
+        const Validation validate = validationFor(path);
+        const QString found = validate == nullptr ? QStringLiteral("unknown kind of file")
+                                                  : faultOf(path, validate, session);
         session.out() << printable(path) << ": "
                       << (found.isNull() ? QStringLiteral("valid") : printable(found)) << '\n';
         if (!found.isNull())
