@@ -25,7 +25,8 @@ function(cui_add_test name)
         testSupport ${arg_LIBRARIES} Qt5::Test CuiWarnings CuiStrictQt)
 
     add_test(NAME ${target} COMMAND ${target})
+    # In the language of the sources, whatever the developer's own is.
     set_tests_properties(${target} PROPERTIES
         TIMEOUT ${arg_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=")
 endfunction()

@@ -1,6 +1,7 @@
 #include "VelUtil.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QLocale>
 #include <QTranslator>
 
@@ -28,26 +29,98 @@ public:
         : m_directory(directory), m_baseName(baseName)
     {
         all().push_back(this);
-        if (QCoreApplication::instance() != nullptr)
-            install(QLocale::system().bcp47Name());
+        // Libraries linked to an executable are loaded before it makes its application object.
+        static const bool followsApplications = [] {
+            qAddPreRoutine([] { choose(); });
+            return true;
+        }();
+        Q_UNUSED(followsApplications)
+        choose();
     }
 
     ~Private() { all().erase(std::remove(all().begin(), all().end(), this), all().end()); }
 
-    bool install(const QString &locale)
+    /// Shows the language that was set, else the user's.
+    static bool choose()
     {
-        m_translator = std::make_unique<QTranslator>();
-        return m_translator->load(m_baseName + QLatin1Char('_') + locale, m_directory)
-               && QCoreApplication::installTranslator(m_translator.get());
+        if (QCoreApplication::instance() == nullptr)
+            return false;
+        if (!chosenLocale().isEmpty())
+            return show(chosenLocale());
+        for (const QString &locale : QLocale::system().uiLanguages()) {
+            if (show(locale))
+                return true;
+            // Who prefers English to another language has it in the source.
+            if (QLocale(locale).language() == QLocale::English)
+                break;
+        }
+        return false;
     }
 
+    static QString &chosenLocale()
+    {
+        static QString locale;
+        return locale;
+    }
+
+private:
     static std::vector<Private *> &all()
     {
         static std::vector<Private *> loaders;
         return loaders;
     }
 
-private:
+    static bool show(const QString &locale)
+    {
+        if (installAll(QLocale(locale)))
+            return true;
+        installAll(QLocale(QLocale::English));
+        return false;
+    }
+
+    static bool installAll(const QLocale &locale)
+    {
+        bool found = false;
+        for (Private *loader : all())
+            found = loader->install(locale) || found;
+        return found;
+    }
+
+    bool install(const QLocale &locale)
+    {
+        m_translator.reset(); // which uninstalls it
+        const QString file = bestFile(locale);
+        auto translator = std::make_unique<QTranslator>();
+        if (file.isEmpty() || !translator->load(m_directory + QLatin1Char('/') + file)
+            || !QCoreApplication::installTranslator(translator.get()))
+            return false;
+        m_translator = std::move(translator);
+        return true;
+    }
+
+    QString bestFile(const QLocale &locale) const
+    {
+        const QString prefix = m_baseName + QLatin1Char('_');
+        const QLatin1String suffix(".qm");
+        const QStringList files =
+                QDir(m_directory)
+                        .entryList({prefix + QLatin1Char('*') + suffix}, QDir::Files, QDir::Name);
+        QString best;
+        for (const QString &file : files) {
+            const QLocale offered(file.mid(prefix.size()).chopped(suffix.size()));
+            // What is not a language counts as that of the C locale.
+            if (offered.language() == QLocale::C || offered.language() != locale.language()
+                || offered.script() != locale.script())
+                continue;
+            if (offered.country() == locale.country())
+                return file;
+            // The country that a language is called without naming one is next.
+            if (best.isEmpty() || offered == QLocale(offered.language()))
+                best = file;
+        }
+        return best;
+    }
+
     QString m_directory;
     QString m_baseName;
     std::unique_ptr<QTranslator> m_translator;
@@ -65,10 +138,8 @@ QvelTranslationLoader::~QvelTranslationLoader()
 
 bool QvelTranslationLoader::setLocale(const QString &locale)
 {
-    bool found = false;
-    for (Private *loader : Private::all())
-        found = loader->install(locale) || found;
-    return found;
+    Private::chosenLocale() = locale;
+    return Private::choose();
 }
 
 double GetUIScaleFactor(int)
@@ -85,15 +156,3 @@ void SetUIScaleFactor(double factor)
 }
 
 } // namespace VelSDK
-
-namespace {
-
-void installTranslations()
-{
-    VelSDK::QvelTranslationLoader::setLocale(QLocale::system().bcp47Name());
-}
-
-} // namespace
-
-// Libraries linked to an executable are loaded before it makes its application object.
-Q_COREAPP_STARTUP_FUNCTION(installTranslations)

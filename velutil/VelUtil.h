@@ -16,9 +16,15 @@ namespace VelSDK {
 
 /// Installs the translations of a library when the library is loaded.
 ///
-/// Made to be a static object of that library. As soon as there is an application object, it looks
-/// for the file "<directory>/<baseName>_<locale>.qm" of the system's language and installs it;
-/// without such a file the texts stay as they are in the source. User-interface thread only.
+/// Made to be a static object of that library. As soon as there is an application object, it
+/// installs a file "<directory>/<baseName>_<locale>.qm", the locale being written as in "de-DE".
+///
+/// All loaders of a process show one language: the first of the user's languages in which one of
+/// them has a file, or the one last set. A loader takes its file of that language and script for
+/// the country if it has one, else that for another country: de-DE will do for Austria and pt-BR
+/// for Portugal, but never zh-CN for Taiwan. Without a file the texts stay as they are in the
+/// source, which is taken to be English; when no loader has the language, files in English are
+/// taken. User-interface thread only.
 class VELUTIL_EXPORT QvelTranslationLoader
 {
     Q_DISABLE_COPY(QvelTranslationLoader)
@@ -29,7 +35,10 @@ public:
     ~QvelTranslationLoader();
 
     /// Replaces what the loaders of the process have installed by the files of @p locale, written
-    /// as in "de-DE". True when at least one loader has such a file.
+    /// as in "de-DE"; "en" returns to the texts of the source, an empty one to the user's language.
+    /// Widgets are told by a LanguageChange event. True when at least one loader has a file of that
+    /// language; without an application object it is false, and the locale is shown once there is
+    /// one.
     static bool setLocale(const QString &locale);
 
 private:

@@ -1,6 +1,7 @@
 #include "SampleHost.h"
 
 #include "HostActionRegistry.h"
+#include "HostTranslations.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -45,6 +46,7 @@ bool SampleHost::load()
         return false;
     }
 
+    installTranslations();
     m_catalogue = *catalogue;
     auto ownedRegistry = std::make_unique<HostActionRegistry>(m_catalogue);
     ownedRegistry->registerActions();

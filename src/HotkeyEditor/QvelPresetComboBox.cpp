@@ -261,11 +261,4 @@ void QvelPresetComboBox::paintEvent(QPaintEvent *)
                          QPalette::Text);
 }
 
-void QvelPresetComboBox::changeEvent(QEvent *event)
-{
-    QComboBox::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        update(); // the marker is translated when it is painted
-}
-
 } // namespace CUI

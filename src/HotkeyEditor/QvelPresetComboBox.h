@@ -63,9 +63,12 @@ public:
     int setCurrentPreset(const Preset &preset);
 
     /// Gives the current entry another preset and its name. Tool tip, icon and place of the entry
-    /// stay as they are. The model's dataChanged() is emitted even when the presets are equal; the
-    /// box's currentTextChanged() accompanies each of them. Without a current entry nothing
-    /// happens.
+    /// stay as they are. Without a current entry nothing happens.
+    ///
+    /// Takes the old preset out, puts the new one in, then sets the text; each of them, the last
+    /// only where the names differ, makes the model emit dataChanged() and the box
+    /// currentTextChanged(), even when the presets are equal. At the first of these signals the
+    /// entry carries no preset.
     void modifyCurrentPreset(const Preset &preset);
 
     /// Removes the first entry that carries the preset, if there is one. When addNotInPathPreset()
@@ -85,7 +88,6 @@ protected:
     /// Paints the box; unless it is editable, also the icon, the name, shortened in its middle
     /// where it does not fit, and the marker.
     void paintEvent(QPaintEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private:
     class Private;

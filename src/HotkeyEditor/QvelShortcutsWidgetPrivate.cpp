@@ -185,6 +185,11 @@ void QvelShortcutsWidget::Private::setDefaultHeadersSizes()
     tree->setColumnWidth(QvelActionItemModel::ActionColumn, actionWidth);
     tree->setColumnWidth(QvelActionItemModel::HotkeyColumn, 25 * character);
     tree->setColumnWidth(QvelActionItemModel::GroupColumn, 20 * character);
+    // The last section takes what is left, which may be less than its header needs.
+    const QHeaderView *header = tree->header();
+    tree->setColumnWidth(QvelActionItemModel::CategoryColumn,
+                         std::max(header->defaultSectionSize(),
+                                  header->sectionSizeHint(QvelActionItemModel::CategoryColumn)));
 }
 
 void QvelShortcutsWidget::Private::saveHeadersSizes()
@@ -373,6 +378,7 @@ void QvelShortcutsWidget::Private::retranslate()
             m_optionActions.at(i)->setText(editorText(optionTexts.at(static_cast<std::size_t>(i))));
     }
     retranslateFilters();
+    retranslateLists();
     alignFilterLabels();
     panel->retranslate();
 }
@@ -387,6 +393,18 @@ void QvelShortcutsWidget::Private::retranslateFilters()
     const int context = form.contextComboBox->currentIndex();
     QvelCustomizeDialogHelper::initializeContextList(form.contextComboBox);
     form.contextComboBox->setCurrentIndex(context);
+}
+
+// The names of shipped sets and the headers of the table are translated where they are read.
+void QvelShortcutsWidget::Private::retranslateLists()
+{
+    const QSignalBlocker blocker(form.hotkeySetComboBox);
+    const Preset current = form.hotkeySetComboBox->currentPreset();
+    form.hotkeySetComboBox->updatePresets(ConfigType::HotkeySet, true);
+    form.hotkeySetComboBox->setCurrentPreset(current); // none, if there was none
+    model->setHorizontalHeaderLabels(
+            {QvelActionItemModel::tr("Action"), QvelActionItemModel::tr("Hotkey"),
+             QvelActionItemModel::tr("Group"), QvelActionItemModel::tr("Category")});
 }
 
 } // namespace CUI

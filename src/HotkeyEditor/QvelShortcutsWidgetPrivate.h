@@ -56,6 +56,7 @@ private:
     void alignFilterLabels();
     void setDefaultHeadersSizes();
     void retranslateFilters();
+    void retranslateLists();
     void connectLists();
     void connectSelection();
     void connectStore();

@@ -1,0 +1,66 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>QvelMenusWidget</name>
+    <message>
+        <source>QvelMenusWidget</source>
+        <translation>Menus</translation>
+    </message>
+</context>
+<context>
+    <name>QvelShortcutsWidget</name>
+    <message>
+        <source>QvelShortcutsWidget</source>
+        <translation>Hotkey Editor</translation>
+    </message>
+    <message>
+        <source>Save changes...</source>
+        <translation>Saves your changes to the current hotkey set, or to a new one if the set is locked.</translation>
+    </message>
+    <message>
+        <source>Save, load...</source>
+        <translation>Here you can save, load, reset or import hotkey sets.</translation>
+    </message>
+    <message>
+        <source>Change the active...</source>
+        <translation>Changes the active hotkey set.</translation>
+    </message>
+    <message>
+        <source>Filter the list... assigned</source>
+        <translation>Filters the list of actions by whether their hotkeys are assigned, customized or not saved yet.</translation>
+    </message>
+    <message>
+        <source>Filter the list...context</source>
+        <translation>Filters the list of actions by the group that they belong to.</translation>
+    </message>
+    <message>
+        <source>Press keys and modifiers...</source>
+        <translation>Type a part of the action&apos;s name or, when you search by hotkeys, press the keys and modifiers you are looking for.</translation>
+    </message>
+    <message>
+        <source>Search will be... hotkey</source>
+        <translation>The search will be by hotkey: press the keys and modifiers you are looking for.</translation>
+    </message>
+    <message>
+        <source>Search will be... action</source>
+        <translation>The search will be by action: type a part of its name.</translation>
+    </message>
+    <message>
+        <source>Press keys and... assign</source>
+        <translation>Press the keys and modifiers that you want to assign to the selected action.</translation>
+    </message>
+    <message>
+        <source>Assigns the hotkey...</source>
+        <translation>Assigns the hotkey to the selected action.</translation>
+    </message>
+    <message>
+        <source>Reassign the hotkey...</source>
+        <translation>Assigns the hotkey again to the action that it was removed from.</translation>
+    </message>
+    <message>
+        <source>Removes the assignment...</source>
+        <translation>Removes the hotkey from the action that has it now, so that you can assign it to the selected one.</translation>
+    </message>
+</context>
+</TS>

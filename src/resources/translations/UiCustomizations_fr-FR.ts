@@ -1,0 +1,471 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>CUI</name>
+    <message>
+        <source>Velstudio Default Keyset</source>
+        <translation>Jeu de raccourcis Velstudio par défaut</translation>
+    </message>
+    <message>
+        <source>Zarvi Default Keyset</source>
+        <translation>Jeu de raccourcis Zarvi par défaut</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelActionItemModel</name>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>Raccourci</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Catégorie</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelAssignedShortcutListItem</name>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Successfully removed</source>
+        <translation>Suppression réussie</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelMessageLogWidget</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Clear Log</source>
+        <translation>Effacer le journal</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelPresetComboBox</name>
+    <message>
+        <source>[Unsaved Changes*]</source>
+        <translation>[Modifications non enregistrées*]</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelShortcutManager</name>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>à</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <translation>de</translation>
+    </message>
+</context>
+<context>
+    <name>QvelCustomizeUiDialog</name>
+    <message>
+        <source>All Groups</source>
+        <translation>Tous les groupes</translation>
+    </message>
+    <message>
+        <source>All Actions</source>
+        <translation>Toutes les actions</translation>
+    </message>
+    <message>
+        <source>Assigned Hotkeys Only</source>
+        <translation>Raccourcis attribués uniquement</translation>
+    </message>
+    <message>
+        <source>Customized Hotkeys Only</source>
+        <translation>Raccourcis personnalisés uniquement</translation>
+    </message>
+    <message>
+        <source>Unsaved Hotkeys Only</source>
+        <translation>Raccourcis non enregistrés uniquement</translation>
+    </message>
+</context>
+<context>
+    <name>QvelMenusWidget</name>
+    <message>
+        <source>QvelMenusWidget</source>
+        <translation>Menus</translation>
+    </message>
+</context>
+<context>
+    <name>QvelShortcutsWidget</name>
+    <message>
+        <source>QvelShortcutsWidget</source>
+        <translation>Éditeur de raccourcis</translation>
+    </message>
+    <message>
+        <source>Type to search by Hotkeys...</source>
+        <translation>Rechercher par raccourci...</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>Rechercher par action...</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>Saisir une recherche...</translation>
+    </message>
+    <message>
+        <source>Press and hold to temporarily activate.</source>
+        <translation>Maintenez la touche enfoncée pour activer temporairement l’action.</translation>
+    </message>
+    <message>
+        <source>No action selected</source>
+        <translation>Aucune action sélectionnée</translation>
+    </message>
+    <message>
+        <source>Select an action in the table to edit its hotkeys.</source>
+        <translation>Sélectionnez une action dans le tableau pour modifier ses raccourcis.</translation>
+    </message>
+    <message>
+        <source>Select an action in the table on the left to edit its hotkeys</source>
+        <translation>Sélectionnez une action dans le tableau de gauche pour modifier ses raccourcis</translation>
+    </message>
+    <message>
+        <source>Too Many Hotkeys</source>
+        <translation>Trop de raccourcis</translation>
+    </message>
+    <message>
+        <source>An action can have at most %1 hotkeys.
+
+Remove one of them before you assign another.
+</source>
+        <translation>Une action peut avoir au maximum %1 raccourcis.
+
+Supprimez-en un avant d’en attribuer un autre.
+</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save changes...</source>
+        <translation>Enregistre vos modifications dans le jeu de raccourcis actuel ou, s’il est verrouillé, dans un nouveau jeu.</translation>
+    </message>
+    <message>
+        <source>Hotkey Set:</source>
+        <translation>Jeu de raccourcis&#xa0;:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Save, load...</source>
+        <translation>Permet d’enregistrer, de charger, de réinitialiser ou d’importer des jeux de raccourcis.</translation>
+    </message>
+    <message>
+        <source>Change the active...</source>
+        <translation>Change le jeu de raccourcis actif.</translation>
+    </message>
+    <message>
+        <source>Filter the list... assigned</source>
+        <translation>Filtre la liste des actions selon que leurs raccourcis sont attribués, personnalisés ou non enregistrés.</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Groupe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Filter the list...context</source>
+        <translation>Filtre la liste des actions selon le groupe auquel elles appartiennent.</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>Filtre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Press keys and modifiers...</source>
+        <translation>Saisissez une partie du nom de l’action ou, pour une recherche par raccourci, appuyez sur la combinaison de touches recherchée.</translation>
+    </message>
+    <message>
+        <source>Hotkeys</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>Search will be... hotkey</source>
+        <translation>Recherche par raccourci&#xa0;: appuyez sur la combinaison de touches recherchée.</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>Search will be... action</source>
+        <translation>Recherche par action&#xa0;: saisissez une partie de son nom.</translation>
+    </message>
+    <message>
+        <source>Type new hotkey...</source>
+        <translation>Saisir un nouveau raccourci...</translation>
+    </message>
+    <message>
+        <source>Press keys and... assign</source>
+        <translation>Appuyez sur la combinaison de touches à attribuer à l’action sélectionnée.</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>Appuyer sur les touches...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>Attribuer</translation>
+    </message>
+    <message>
+        <source>Assigns the hotkey...</source>
+        <translation>Attribue le raccourci à l’action sélectionnée.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Reassign the hotkey...</source>
+        <translation>Attribue de nouveau le raccourci à l’action dont il a été supprimé.</translation>
+    </message>
+    <message>
+        <source>Removed from:</source>
+        <translation>Supprimé de&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Conflicts with:</source>
+        <translation>En conflit avec&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Removes the assignment...</source>
+        <translation>Supprime le raccourci de l’action qui l’utilise, pour que vous puissiez l’attribuer à l’action sélectionnée.</translation>
+    </message>
+    <message>
+        <source>Validate Shortcut File</source>
+        <translation>Vérifier un fichier de raccourcis</translation>
+    </message>
+    <message>
+        <source>Shortcut File Validation</source>
+        <translation>Vérification du fichier de raccourcis</translation>
+    </message>
+    <message>
+        <source>Validate Shortcut Transform File</source>
+        <translation>Vérifier un fichier de modifications de raccourcis</translation>
+    </message>
+    <message>
+        <source>Shortcut Transform File Validation</source>
+        <translation>Vérification du fichier de modifications de raccourcis</translation>
+    </message>
+    <message>
+        <source>Save Shortcuts</source>
+        <translation>Enregistrer les raccourcis</translation>
+    </message>
+    <message>
+        <source>Load Shortcuts</source>
+        <translation>Charger des raccourcis</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>Save your changes, discard them, or cancel to continue making changes.
+</source>
+        <translation>Enregistrez vos modifications, abandonnez-les ou annulez pour continuer à modifier les raccourcis.
+</translation>
+    </message>
+    <message>
+        <source>Reset Hotkeys</source>
+        <translation>Réinitialiser les raccourcis</translation>
+    </message>
+    <message>
+        <source>Reset to discard all unsaved changes.
+</source>
+        <translation>La réinitialisation abandonne toutes les modifications non enregistrées.
+</translation>
+    </message>
+    <message>
+        <source>File not Found</source>
+        <translation>Fichier introuvable</translation>
+    </message>
+    <message>
+        <source>The file for hotkey set &apos;%1&apos; cannot be found.
+
+You can either preserve the loaded hotkeys by saving them to a file or reset to the default hotkey set.
+</source>
+        <translation>Le fichier du jeu de raccourcis «&#xa0;%1&#xa0;» est introuvable.
+
+Vous pouvez conserver les raccourcis chargés en les enregistrant dans un fichier, ou rétablir le jeu de raccourcis par défaut.
+</translation>
+    </message>
+    <message>
+        <source>The file for hotkey set &apos;%1&apos; cannot be found.
+
+The missing set will be removed from the list.
+</source>
+        <translation>Le fichier du jeu de raccourcis «&#xa0;%1&#xa0;» est introuvable.
+
+Le jeu manquant sera retiré de la liste.
+</translation>
+    </message>
+    <message>
+        <source>Hotkey File Already Exists</source>
+        <translation>Le fichier de raccourcis existe déjà</translation>
+    </message>
+    <message>
+        <source>%1 already exists in the User Customization folder.
+
+Do you want to replace it?</source>
+        <translation>%1 existe déjà dans le dossier de personnalisation de l’utilisateur.
+
+Voulez-vous le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Save Changes Error</source>
+        <translation>Erreur lors de l’enregistrement des modifications</translation>
+    </message>
+    <message>
+        <source>Cannot overwrite a locked preset file!</source>
+        <translation>Impossible de remplacer un fichier de préréglage verrouillé&#xa0;!</translation>
+    </message>
+    <message>
+        <source>The hotkeys cannot be saved to %1.
+
+Your changes are still here.
+</source>
+        <translation>Impossible d’enregistrer les raccourcis dans %1.
+
+Vos modifications sont conservées.
+</translation>
+    </message>
+    <message>
+        <source>Open Log File</source>
+        <translation>Ouvrir le fichier journal</translation>
+    </message>
+    <message>
+        <source>Hotkey Set Not Loaded</source>
+        <translation>Jeu de raccourcis non chargé</translation>
+    </message>
+    <message>
+        <source>%1 cannot be loaded.
+
+See the log for more details.</source>
+        <translation>Impossible de charger %1.
+
+Consultez le journal pour plus de détails.</translation>
+    </message>
+    <message>
+        <source>Hotkey File Converted</source>
+        <translation>Fichier de raccourcis converti</translation>
+    </message>
+    <message>
+        <source>%1 was successfully converted and loaded.
+
+The new file, %2, is saved in your User Settings folder.</source>
+        <translation>%1 a bien été converti et chargé.
+
+Le nouveau fichier, %2, est enregistré dans le dossier de vos paramètres utilisateur.</translation>
+    </message>
+    <message>
+        <source>Open File Location</source>
+        <translation>Ouvrir l’emplacement du fichier</translation>
+    </message>
+    <message>
+        <source>Hotkeys Conversion Failed</source>
+        <translation>Échec de la conversion des raccourcis</translation>
+    </message>
+    <message>
+        <source>Something went wrong while converting %1.
+
+See the log for more details.</source>
+        <translation>Une erreur s’est produite lors de la conversion de %1.
+
+Consultez le journal pour plus de détails.</translation>
+    </message>
+    <message>
+        <source>Xml File valid!! According to schema definition.</source>
+        <translation>Le fichier XML est valide selon la définition du schéma.</translation>
+    </message>
+    <message>
+        <source>Xml File invalid!! According to schema definition.</source>
+        <translation>Le fichier XML n’est pas valide selon la définition du schéma.</translation>
+    </message>
+    <message>
+        <source>Hotkey Set File (*.%1)</source>
+        <translation>Fichier de jeu de raccourcis (*.%1)</translation>
+    </message>
+    <message>
+        <source>Shortcut File (*.%1)</source>
+        <translation>Fichier de raccourcis (*.%1)</translation>
+    </message>
+    <message>
+        <source>Save Hotkey Set As</source>
+        <translation>Enregistrer le jeu de raccourcis sous</translation>
+    </message>
+    <message>
+        <source>Load Hotkey Set</source>
+        <translation>Charger un jeu de raccourcis</translation>
+    </message>
+    <message>
+        <source>Convert Legacy Hotkeys</source>
+        <translation>Convertir d’anciens raccourcis</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts (*.%1)</source>
+        <translation>Raccourcis clavier (*.%1)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Enregistrer sous...</translation>
+    </message>
+    <message>
+        <source>Load From File...</source>
+        <translation>Charger depuis un fichier...</translation>
+    </message>
+    <message>
+        <source>Import Legacy Hotkeys...</source>
+        <translation>Importer d’anciens raccourcis...</translation>
+    </message>
+    <message>
+        <source>Shortcut Transformation List</source>
+        <translation>Liste des modifications de raccourcis</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,471 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en">
+<context>
+    <name>CUI</name>
+    <message>
+        <source>Velstudio Default Keyset</source>
+        <translation>Velstudio デフォルトホットキーセット</translation>
+    </message>
+    <message>
+        <source>Zarvi Default Keyset</source>
+        <translation>Zarvi デフォルトホットキーセット</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelActionItemModel</name>
+    <message>
+        <source>Action</source>
+        <translation>アクション</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>ホットキー</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>カテゴリ</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelAssignedShortcutListItem</name>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Successfully removed</source>
+        <translation>削除しました</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelMessageLogWidget</name>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Clear Log</source>
+        <translation>ログをクリア</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelPresetComboBox</name>
+    <message>
+        <source>[Unsaved Changes*]</source>
+        <translation>[未保存の変更*]</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelShortcutManager</name>
+    <message>
+        <source>Add</source>
+        <translation>追加:</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除:</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>追加先:</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <translation>削除元:</translation>
+    </message>
+</context>
+<context>
+    <name>QvelCustomizeUiDialog</name>
+    <message>
+        <source>All Groups</source>
+        <translation>すべてのグループ</translation>
+    </message>
+    <message>
+        <source>All Actions</source>
+        <translation>すべてのアクション</translation>
+    </message>
+    <message>
+        <source>Assigned Hotkeys Only</source>
+        <translation>割り当て済みのホットキーのみ</translation>
+    </message>
+    <message>
+        <source>Customized Hotkeys Only</source>
+        <translation>カスタマイズしたホットキーのみ</translation>
+    </message>
+    <message>
+        <source>Unsaved Hotkeys Only</source>
+        <translation>未保存のホットキーのみ</translation>
+    </message>
+</context>
+<context>
+    <name>QvelMenusWidget</name>
+    <message>
+        <source>QvelMenusWidget</source>
+        <translation>メニュー</translation>
+    </message>
+</context>
+<context>
+    <name>QvelShortcutsWidget</name>
+    <message>
+        <source>QvelShortcutsWidget</source>
+        <translation>ホットキーエディター</translation>
+    </message>
+    <message>
+        <source>Type to search by Hotkeys...</source>
+        <translation>ホットキーで検索...</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>アクションで検索...</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>入力して検索...</translation>
+    </message>
+    <message>
+        <source>Press and hold to temporarily activate.</source>
+        <translation>押している間だけ有効になります。</translation>
+    </message>
+    <message>
+        <source>No action selected</source>
+        <translation>アクションが選択されていません</translation>
+    </message>
+    <message>
+        <source>Select an action in the table to edit its hotkeys.</source>
+        <translation>ホットキーを編集するアクションを表で選択してください。</translation>
+    </message>
+    <message>
+        <source>Select an action in the table on the left to edit its hotkeys</source>
+        <translation>ホットキーを編集するアクションを左の表で選択してください</translation>
+    </message>
+    <message>
+        <source>Too Many Hotkeys</source>
+        <translation>ホットキーが多すぎます</translation>
+    </message>
+    <message>
+        <source>An action can have at most %1 hotkeys.
+
+Remove one of them before you assign another.
+</source>
+        <translation>1 つのアクションに割り当てられるホットキーは %1 個までです。
+
+別のホットキーを割り当てる前に、いずれかを削除してください。
+</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save changes...</source>
+        <translation>変更を現在のホットキーセットに保存します。ロックされている場合は、新しいセットに保存します。</translation>
+    </message>
+    <message>
+        <source>Hotkey Set:</source>
+        <translation>ホットキーセット:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Save, load...</source>
+        <translation>ホットキーセットの保存、読み込み、リセット、インポートを行います。</translation>
+    </message>
+    <message>
+        <source>Change the active...</source>
+        <translation>使用するホットキーセットを切り替えます。</translation>
+    </message>
+    <message>
+        <source>Filter the list... assigned</source>
+        <translation>ホットキーの状態（割り当て済み、カスタマイズ、未保存）でアクションのリストを絞り込みます。</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>グループ:</translation>
+    </message>
+    <message>
+        <source>Filter the list...context</source>
+        <translation>アクションのリストをグループで絞り込みます。</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>フィルター:</translation>
+    </message>
+    <message>
+        <source>Press keys and modifiers...</source>
+        <translation>アクション名の一部を入力します。ホットキーで検索するときは、探しているキーの組み合わせを押します。</translation>
+    </message>
+    <message>
+        <source>Hotkeys</source>
+        <translation>ホットキー</translation>
+    </message>
+    <message>
+        <source>Search will be... hotkey</source>
+        <translation>ホットキーで検索します。探しているキーの組み合わせを押してください。</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>アクション</translation>
+    </message>
+    <message>
+        <source>Search will be... action</source>
+        <translation>アクションで検索します。名前の一部を入力してください。</translation>
+    </message>
+    <message>
+        <source>Type new hotkey...</source>
+        <translation>新しいホットキーを入力...</translation>
+    </message>
+    <message>
+        <source>Press keys and... assign</source>
+        <translation>選択したアクションに割り当てるキーの組み合わせを押してください。</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>キーを押す...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>割り当て</translation>
+    </message>
+    <message>
+        <source>Assigns the hotkey...</source>
+        <translation>ホットキーを選択したアクションに割り当てます。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Reassign the hotkey...</source>
+        <translation>ホットキーを削除元のアクションに割り当て直します。</translation>
+    </message>
+    <message>
+        <source>Removed from:</source>
+        <translation>削除元:</translation>
+    </message>
+    <message>
+        <source>Conflicts with:</source>
+        <translation>競合先:</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Removes the assignment...</source>
+        <translation>現在使用しているアクションからホットキーを削除し、選択したアクションに割り当てられるようにします。</translation>
+    </message>
+    <message>
+        <source>Validate Shortcut File</source>
+        <translation>ホットキーファイルを検証</translation>
+    </message>
+    <message>
+        <source>Shortcut File Validation</source>
+        <translation>ホットキーファイルの検証結果</translation>
+    </message>
+    <message>
+        <source>Validate Shortcut Transform File</source>
+        <translation>ホットキー変更ファイルを検証</translation>
+    </message>
+    <message>
+        <source>Shortcut Transform File Validation</source>
+        <translation>ホットキー変更ファイルの検証結果</translation>
+    </message>
+    <message>
+        <source>Save Shortcuts</source>
+        <translation>ホットキーを保存</translation>
+    </message>
+    <message>
+        <source>Load Shortcuts</source>
+        <translation>ホットキーを読み込む</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>未保存の変更</translation>
+    </message>
+    <message>
+        <source>Save your changes, discard them, or cancel to continue making changes.
+</source>
+        <translation>変更を保存するか破棄してください。編集を続ける場合はキャンセルしてください。
+</translation>
+    </message>
+    <message>
+        <source>Reset Hotkeys</source>
+        <translation>ホットキーをリセット</translation>
+    </message>
+    <message>
+        <source>Reset to discard all unsaved changes.
+</source>
+        <translation>リセットすると、未保存の変更はすべて破棄されます。
+</translation>
+    </message>
+    <message>
+        <source>File not Found</source>
+        <translation>ファイルが見つかりません</translation>
+    </message>
+    <message>
+        <source>The file for hotkey set &apos;%1&apos; cannot be found.
+
+You can either preserve the loaded hotkeys by saving them to a file or reset to the default hotkey set.
+</source>
+        <translation>ホットキーセット「%1」のファイルが見つかりません。
+
+読み込まれているホットキーをファイルに保存して残すか、デフォルトのホットキーセットにリセットすることができます。
+</translation>
+    </message>
+    <message>
+        <source>The file for hotkey set &apos;%1&apos; cannot be found.
+
+The missing set will be removed from the list.
+</source>
+        <translation>ホットキーセット「%1」のファイルが見つかりません。
+
+見つからないセットはリストから削除されます。
+</translation>
+    </message>
+    <message>
+        <source>Hotkey File Already Exists</source>
+        <translation>ホットキーファイルは既に存在します</translation>
+    </message>
+    <message>
+        <source>%1 already exists in the User Customization folder.
+
+Do you want to replace it?</source>
+        <translation>%1 はユーザーカスタマイズフォルダーに既に存在します。
+
+置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Save Changes Error</source>
+        <translation>変更の保存エラー</translation>
+    </message>
+    <message>
+        <source>Cannot overwrite a locked preset file!</source>
+        <translation>ロックされたプリセットファイルは上書きできません。</translation>
+    </message>
+    <message>
+        <source>The hotkeys cannot be saved to %1.
+
+Your changes are still here.
+</source>
+        <translation>ホットキーを %1 に保存できません。
+
+変更内容は失われていません。
+</translation>
+    </message>
+    <message>
+        <source>Open Log File</source>
+        <translation>ログファイルを開く</translation>
+    </message>
+    <message>
+        <source>Hotkey Set Not Loaded</source>
+        <translation>ホットキーセットを読み込めません</translation>
+    </message>
+    <message>
+        <source>%1 cannot be loaded.
+
+See the log for more details.</source>
+        <translation>%1 を読み込めません。
+
+詳細はログを参照してください。</translation>
+    </message>
+    <message>
+        <source>Hotkey File Converted</source>
+        <translation>ホットキーファイルを変換しました</translation>
+    </message>
+    <message>
+        <source>%1 was successfully converted and loaded.
+
+The new file, %2, is saved in your User Settings folder.</source>
+        <translation>%1 を変換して読み込みました。
+
+新しいファイル %2 はユーザー設定フォルダーに保存されています。</translation>
+    </message>
+    <message>
+        <source>Open File Location</source>
+        <translation>ファイルの場所を開く</translation>
+    </message>
+    <message>
+        <source>Hotkeys Conversion Failed</source>
+        <translation>ホットキーの変換に失敗しました</translation>
+    </message>
+    <message>
+        <source>Something went wrong while converting %1.
+
+See the log for more details.</source>
+        <translation>%1 の変換中に問題が発生しました。
+
+詳細はログを参照してください。</translation>
+    </message>
+    <message>
+        <source>Xml File valid!! According to schema definition.</source>
+        <translation>XML ファイルはスキーマ定義に準拠しています。</translation>
+    </message>
+    <message>
+        <source>Xml File invalid!! According to schema definition.</source>
+        <translation>XML ファイルはスキーマ定義に準拠していません。</translation>
+    </message>
+    <message>
+        <source>Hotkey Set File (*.%1)</source>
+        <translation>ホットキーセットファイル (*.%1)</translation>
+    </message>
+    <message>
+        <source>Shortcut File (*.%1)</source>
+        <translation>ホットキーファイル (*.%1)</translation>
+    </message>
+    <message>
+        <source>Save Hotkey Set As</source>
+        <translation>名前を付けてホットキーセットを保存</translation>
+    </message>
+    <message>
+        <source>Load Hotkey Set</source>
+        <translation>ホットキーセットを読み込む</translation>
+    </message>
+    <message>
+        <source>Convert Legacy Hotkeys</source>
+        <translation>旧バージョンのホットキーを変換</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts (*.%1)</source>
+        <translation>キーボードのホットキー (*.%1)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>名前を付けて保存...</translation>
+    </message>
+    <message>
+        <source>Load From File...</source>
+        <translation>ファイルから読み込む...</translation>
+    </message>
+    <message>
+        <source>Import Legacy Hotkeys...</source>
+        <translation>旧バージョンのホットキーをインポート...</translation>
+    </message>
+    <message>
+        <source>Shortcut Transformation List</source>
+        <translation>ホットキー変更リスト</translation>
+    </message>
+</context>
+</TS>

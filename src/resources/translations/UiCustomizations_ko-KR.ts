@@ -1,0 +1,471 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko_KR" sourcelanguage="en">
+<context>
+    <name>CUI</name>
+    <message>
+        <source>Velstudio Default Keyset</source>
+        <translation>Velstudio 기본 단축키 세트</translation>
+    </message>
+    <message>
+        <source>Zarvi Default Keyset</source>
+        <translation>Zarvi 기본 단축키 세트</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelActionItemModel</name>
+    <message>
+        <source>Action</source>
+        <translation>동작</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>단축키</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>그룹</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>범주</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelAssignedShortcutListItem</name>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Successfully removed</source>
+        <translation>제거했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelMessageLogWidget</name>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+    <message>
+        <source>Clear Log</source>
+        <translation>로그 지우기</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelPresetComboBox</name>
+    <message>
+        <source>[Unsaved Changes*]</source>
+        <translation>[저장하지 않은 변경 사항*]</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelShortcutManager</name>
+    <message>
+        <source>Add</source>
+        <translation>추가:</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>제거:</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>대상:</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <translation>대상:</translation>
+    </message>
+</context>
+<context>
+    <name>QvelCustomizeUiDialog</name>
+    <message>
+        <source>All Groups</source>
+        <translation>모든 그룹</translation>
+    </message>
+    <message>
+        <source>All Actions</source>
+        <translation>모든 동작</translation>
+    </message>
+    <message>
+        <source>Assigned Hotkeys Only</source>
+        <translation>할당된 단축키만</translation>
+    </message>
+    <message>
+        <source>Customized Hotkeys Only</source>
+        <translation>사용자 지정 단축키만</translation>
+    </message>
+    <message>
+        <source>Unsaved Hotkeys Only</source>
+        <translation>저장하지 않은 단축키만</translation>
+    </message>
+</context>
+<context>
+    <name>QvelMenusWidget</name>
+    <message>
+        <source>QvelMenusWidget</source>
+        <translation>메뉴</translation>
+    </message>
+</context>
+<context>
+    <name>QvelShortcutsWidget</name>
+    <message>
+        <source>QvelShortcutsWidget</source>
+        <translation>단축키 편집기</translation>
+    </message>
+    <message>
+        <source>Type to search by Hotkeys...</source>
+        <translation>단축키로 검색...</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>동작으로 검색...</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>검색어 입력...</translation>
+    </message>
+    <message>
+        <source>Press and hold to temporarily activate.</source>
+        <translation>누르고 있는 동안만 활성화됩니다.</translation>
+    </message>
+    <message>
+        <source>No action selected</source>
+        <translation>선택한 동작 없음</translation>
+    </message>
+    <message>
+        <source>Select an action in the table to edit its hotkeys.</source>
+        <translation>단축키를 편집하려면 표에서 동작을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Select an action in the table on the left to edit its hotkeys</source>
+        <translation>단축키를 편집하려면 왼쪽 표에서 동작을 선택하십시오</translation>
+    </message>
+    <message>
+        <source>Too Many Hotkeys</source>
+        <translation>단축키가 너무 많음</translation>
+    </message>
+    <message>
+        <source>An action can have at most %1 hotkeys.
+
+Remove one of them before you assign another.
+</source>
+        <translation>한 동작에는 단축키를 %1개까지 할당할 수 있습니다.
+
+다른 단축키를 할당하려면 먼저 하나를 제거하십시오.
+</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Save changes...</source>
+        <translation>변경 사항을 현재 단축키 세트에 저장합니다. 세트가 잠겨 있으면 새 세트에 저장합니다.</translation>
+    </message>
+    <message>
+        <source>Hotkey Set:</source>
+        <translation>단축키 세트:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Save, load...</source>
+        <translation>단축키 세트를 저장하거나 불러오거나 초기화하거나 가져옵니다.</translation>
+    </message>
+    <message>
+        <source>Change the active...</source>
+        <translation>사용할 단축키 세트를 변경합니다.</translation>
+    </message>
+    <message>
+        <source>Filter the list... assigned</source>
+        <translation>단축키의 상태(할당됨, 사용자 지정, 저장하지 않음)에 따라 동작 목록을 필터링합니다.</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>그룹:</translation>
+    </message>
+    <message>
+        <source>Filter the list...context</source>
+        <translation>동작이 속한 그룹에 따라 동작 목록을 필터링합니다.</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>필터:</translation>
+    </message>
+    <message>
+        <source>Press keys and modifiers...</source>
+        <translation>동작 이름의 일부를 입력하십시오. 단축키로 검색할 때는 찾으려는 키 조합을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Hotkeys</source>
+        <translation>단축키</translation>
+    </message>
+    <message>
+        <source>Search will be... hotkey</source>
+        <translation>단축키로 검색합니다. 찾으려는 키 조합을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>동작</translation>
+    </message>
+    <message>
+        <source>Search will be... action</source>
+        <translation>동작으로 검색합니다. 이름의 일부를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Type new hotkey...</source>
+        <translation>새 단축키 입력...</translation>
+    </message>
+    <message>
+        <source>Press keys and... assign</source>
+        <translation>선택한 동작에 할당할 키 조합을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>키 누르기...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>할당</translation>
+    </message>
+    <message>
+        <source>Assigns the hotkey...</source>
+        <translation>선택한 동작에 단축키를 할당합니다.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Reassign the hotkey...</source>
+        <translation>단축키를 제거했던 동작에 다시 할당합니다.</translation>
+    </message>
+    <message>
+        <source>Removed from:</source>
+        <translation>다음에서 제거됨:</translation>
+    </message>
+    <message>
+        <source>Conflicts with:</source>
+        <translation>다음과 충돌:</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
+    </message>
+    <message>
+        <source>Removes the assignment...</source>
+        <translation>현재 사용 중인 동작에서 단축키를 제거하여 선택한 동작에 할당할 수 있게 합니다.</translation>
+    </message>
+    <message>
+        <source>Validate Shortcut File</source>
+        <translation>단축키 파일 검증</translation>
+    </message>
+    <message>
+        <source>Shortcut File Validation</source>
+        <translation>단축키 파일 검증 결과</translation>
+    </message>
+    <message>
+        <source>Validate Shortcut Transform File</source>
+        <translation>단축키 변경 파일 검증</translation>
+    </message>
+    <message>
+        <source>Shortcut Transform File Validation</source>
+        <translation>단축키 변경 파일 검증 결과</translation>
+    </message>
+    <message>
+        <source>Save Shortcuts</source>
+        <translation>단축키 저장</translation>
+    </message>
+    <message>
+        <source>Load Shortcuts</source>
+        <translation>단축키 불러오기</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>초기화</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>저장하지 않은 변경 사항</translation>
+    </message>
+    <message>
+        <source>Save your changes, discard them, or cancel to continue making changes.
+</source>
+        <translation>변경 사항을 저장하거나 버리십시오. 계속 변경하려면 취소하십시오.
+</translation>
+    </message>
+    <message>
+        <source>Reset Hotkeys</source>
+        <translation>단축키 초기화</translation>
+    </message>
+    <message>
+        <source>Reset to discard all unsaved changes.
+</source>
+        <translation>초기화하면 저장하지 않은 변경 사항을 모두 잃게 됩니다.
+</translation>
+    </message>
+    <message>
+        <source>File not Found</source>
+        <translation>파일을 찾을 수 없음</translation>
+    </message>
+    <message>
+        <source>The file for hotkey set &apos;%1&apos; cannot be found.
+
+You can either preserve the loaded hotkeys by saving them to a file or reset to the default hotkey set.
+</source>
+        <translation>단축키 세트 &apos;%1&apos;의 파일을 찾을 수 없습니다.
+
+불러온 단축키를 파일에 저장하여 유지하거나 기본 단축키 세트로 초기화할 수 있습니다.
+</translation>
+    </message>
+    <message>
+        <source>The file for hotkey set &apos;%1&apos; cannot be found.
+
+The missing set will be removed from the list.
+</source>
+        <translation>단축키 세트 &apos;%1&apos;의 파일을 찾을 수 없습니다.
+
+찾을 수 없는 세트는 목록에서 제거됩니다.
+</translation>
+    </message>
+    <message>
+        <source>Hotkey File Already Exists</source>
+        <translation>단축키 파일이 이미 있음</translation>
+    </message>
+    <message>
+        <source>%1 already exists in the User Customization folder.
+
+Do you want to replace it?</source>
+        <translation>%1이(가) 사용자 지정 폴더에 이미 있습니다.
+
+바꾸시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Save Changes Error</source>
+        <translation>변경 사항 저장 오류</translation>
+    </message>
+    <message>
+        <source>Cannot overwrite a locked preset file!</source>
+        <translation>잠긴 프리셋 파일은 덮어쓸 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>The hotkeys cannot be saved to %1.
+
+Your changes are still here.
+</source>
+        <translation>단축키를 %1에 저장할 수 없습니다.
+
+변경 사항은 그대로 유지됩니다.
+</translation>
+    </message>
+    <message>
+        <source>Open Log File</source>
+        <translation>로그 파일 열기</translation>
+    </message>
+    <message>
+        <source>Hotkey Set Not Loaded</source>
+        <translation>단축키 세트를 불러오지 못함</translation>
+    </message>
+    <message>
+        <source>%1 cannot be loaded.
+
+See the log for more details.</source>
+        <translation>%1을(를) 불러올 수 없습니다.
+
+자세한 내용은 로그를 참조하십시오.</translation>
+    </message>
+    <message>
+        <source>Hotkey File Converted</source>
+        <translation>단축키 파일 변환 완료</translation>
+    </message>
+    <message>
+        <source>%1 was successfully converted and loaded.
+
+The new file, %2, is saved in your User Settings folder.</source>
+        <translation>%1을(를) 변환하여 불러왔습니다.
+
+새 파일 %2은(는) 사용자 설정 폴더에 저장되었습니다.</translation>
+    </message>
+    <message>
+        <source>Open File Location</source>
+        <translation>파일 위치 열기</translation>
+    </message>
+    <message>
+        <source>Hotkeys Conversion Failed</source>
+        <translation>단축키 변환 실패</translation>
+    </message>
+    <message>
+        <source>Something went wrong while converting %1.
+
+See the log for more details.</source>
+        <translation>%1을(를) 변환하는 중에 문제가 발생했습니다.
+
+자세한 내용은 로그를 참조하십시오.</translation>
+    </message>
+    <message>
+        <source>Xml File valid!! According to schema definition.</source>
+        <translation>XML 파일이 스키마 정의에 따라 유효합니다.</translation>
+    </message>
+    <message>
+        <source>Xml File invalid!! According to schema definition.</source>
+        <translation>XML 파일이 스키마 정의에 따라 유효하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Hotkey Set File (*.%1)</source>
+        <translation>단축키 세트 파일 (*.%1)</translation>
+    </message>
+    <message>
+        <source>Shortcut File (*.%1)</source>
+        <translation>단축키 파일 (*.%1)</translation>
+    </message>
+    <message>
+        <source>Save Hotkey Set As</source>
+        <translation>다른 이름으로 단축키 세트 저장</translation>
+    </message>
+    <message>
+        <source>Load Hotkey Set</source>
+        <translation>단축키 세트 불러오기</translation>
+    </message>
+    <message>
+        <source>Convert Legacy Hotkeys</source>
+        <translation>이전 버전 단축키 변환</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts (*.%1)</source>
+        <translation>키보드 단축키 (*.%1)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>다른 이름으로 저장...</translation>
+    </message>
+    <message>
+        <source>Load From File...</source>
+        <translation>파일에서 불러오기...</translation>
+    </message>
+    <message>
+        <source>Import Legacy Hotkeys...</source>
+        <translation>이전 버전 단축키 가져오기...</translation>
+    </message>
+    <message>
+        <source>Shortcut Transformation List</source>
+        <translation>단축키 변경 목록</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,471 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<context>
+    <name>CUI</name>
+    <message>
+        <source>Velstudio Default Keyset</source>
+        <translation>Conjunto de atalhos padrão Velstudio</translation>
+    </message>
+    <message>
+        <source>Zarvi Default Keyset</source>
+        <translation>Conjunto de atalhos padrão Zarvi</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelActionItemModel</name>
+    <message>
+        <source>Action</source>
+        <translation>Ação</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>Atalho</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categoria</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelAssignedShortcutListItem</name>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Successfully removed</source>
+        <translation>Removido com sucesso</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelMessageLogWidget</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>Clear Log</source>
+        <translation>Limpar log</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelPresetComboBox</name>
+    <message>
+        <source>[Unsaved Changes*]</source>
+        <translation>[Alterações não salvas*]</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelShortcutManager</name>
+    <message>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>a</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <translation>de</translation>
+    </message>
+</context>
+<context>
+    <name>QvelCustomizeUiDialog</name>
+    <message>
+        <source>All Groups</source>
+        <translation>Todos os grupos</translation>
+    </message>
+    <message>
+        <source>All Actions</source>
+        <translation>Todas as ações</translation>
+    </message>
+    <message>
+        <source>Assigned Hotkeys Only</source>
+        <translation>Somente atalhos atribuídos</translation>
+    </message>
+    <message>
+        <source>Customized Hotkeys Only</source>
+        <translation>Somente atalhos personalizados</translation>
+    </message>
+    <message>
+        <source>Unsaved Hotkeys Only</source>
+        <translation>Somente atalhos não salvos</translation>
+    </message>
+</context>
+<context>
+    <name>QvelMenusWidget</name>
+    <message>
+        <source>QvelMenusWidget</source>
+        <translation>Menus</translation>
+    </message>
+</context>
+<context>
+    <name>QvelShortcutsWidget</name>
+    <message>
+        <source>QvelShortcutsWidget</source>
+        <translation>Editor de atalhos</translation>
+    </message>
+    <message>
+        <source>Type to search by Hotkeys...</source>
+        <translation>Pesquisar por atalhos...</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>Pesquisar por ações...</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>Digite para pesquisar...</translation>
+    </message>
+    <message>
+        <source>Press and hold to temporarily activate.</source>
+        <translation>Mantenha pressionado para ativar temporariamente.</translation>
+    </message>
+    <message>
+        <source>No action selected</source>
+        <translation>Nenhuma ação selecionada</translation>
+    </message>
+    <message>
+        <source>Select an action in the table to edit its hotkeys.</source>
+        <translation>Selecione uma ação na tabela para editar os atalhos dela.</translation>
+    </message>
+    <message>
+        <source>Select an action in the table on the left to edit its hotkeys</source>
+        <translation>Selecione uma ação na tabela à esquerda para editar os atalhos dela</translation>
+    </message>
+    <message>
+        <source>Too Many Hotkeys</source>
+        <translation>Atalhos demais</translation>
+    </message>
+    <message>
+        <source>An action can have at most %1 hotkeys.
+
+Remove one of them before you assign another.
+</source>
+        <translation>Uma ação pode ter no máximo %1 atalhos.
+
+Remova um deles antes de atribuir outro.
+</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Save changes...</source>
+        <translation>Salva suas alterações no conjunto de atalhos atual ou, se ele estiver bloqueado, em um novo conjunto.</translation>
+    </message>
+    <message>
+        <source>Hotkey Set:</source>
+        <translation>Conjunto de atalhos:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Save, load...</source>
+        <translation>Permite salvar, carregar, redefinir ou importar conjuntos de atalhos.</translation>
+    </message>
+    <message>
+        <source>Change the active...</source>
+        <translation>Muda o conjunto de atalhos ativo.</translation>
+    </message>
+    <message>
+        <source>Filter the list... assigned</source>
+        <translation>Filtra a lista de ações conforme seus atalhos estejam atribuídos, personalizados ou não salvos.</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Grupo:</translation>
+    </message>
+    <message>
+        <source>Filter the list...context</source>
+        <translation>Filtra a lista de ações pelo grupo a que pertencem.</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>Filtro:</translation>
+    </message>
+    <message>
+        <source>Press keys and modifiers...</source>
+        <translation>Digite parte do nome da ação ou, na pesquisa por atalhos, pressione a combinação de teclas procurada.</translation>
+    </message>
+    <message>
+        <source>Hotkeys</source>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>Search will be... hotkey</source>
+        <translation>Pesquisa por atalho: pressione a combinação de teclas procurada.</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Ações</translation>
+    </message>
+    <message>
+        <source>Search will be... action</source>
+        <translation>Pesquisa por ação: digite parte do nome dela.</translation>
+    </message>
+    <message>
+        <source>Type new hotkey...</source>
+        <translation>Digite o novo atalho...</translation>
+    </message>
+    <message>
+        <source>Press keys and... assign</source>
+        <translation>Pressione a combinação de teclas que deseja atribuir à ação selecionada.</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>Pressione as teclas...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>Atribuir</translation>
+    </message>
+    <message>
+        <source>Assigns the hotkey...</source>
+        <translation>Atribui o atalho à ação selecionada.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Reassign the hotkey...</source>
+        <translation>Atribui o atalho novamente à ação da qual ele foi removido.</translation>
+    </message>
+    <message>
+        <source>Removed from:</source>
+        <translation>Removido de:</translation>
+    </message>
+    <message>
+        <source>Conflicts with:</source>
+        <translation>Conflito com:</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Removes the assignment...</source>
+        <translation>Remove o atalho da ação que o usa, para que você possa atribuí-lo à ação selecionada.</translation>
+    </message>
+    <message>
+        <source>Validate Shortcut File</source>
+        <translation>Validar arquivo de atalhos</translation>
+    </message>
+    <message>
+        <source>Shortcut File Validation</source>
+        <translation>Validação do arquivo de atalhos</translation>
+    </message>
+    <message>
+        <source>Validate Shortcut Transform File</source>
+        <translation>Validar arquivo de alterações de atalhos</translation>
+    </message>
+    <message>
+        <source>Shortcut Transform File Validation</source>
+        <translation>Validação do arquivo de alterações de atalhos</translation>
+    </message>
+    <message>
+        <source>Save Shortcuts</source>
+        <translation>Salvar atalhos</translation>
+    </message>
+    <message>
+        <source>Load Shortcuts</source>
+        <translation>Carregar atalhos</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Redefinir</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Alterações não salvas</translation>
+    </message>
+    <message>
+        <source>Save your changes, discard them, or cancel to continue making changes.
+</source>
+        <translation>Salve suas alterações, descarte-as ou cancele para continuar editando.
+</translation>
+    </message>
+    <message>
+        <source>Reset Hotkeys</source>
+        <translation>Redefinir atalhos</translation>
+    </message>
+    <message>
+        <source>Reset to discard all unsaved changes.
+</source>
+        <translation>Redefina para descartar todas as alterações não salvas.
+</translation>
+    </message>
+    <message>
+        <source>File not Found</source>
+        <translation>Arquivo não encontrado</translation>
+    </message>
+    <message>
+        <source>The file for hotkey set &apos;%1&apos; cannot be found.
+
+You can either preserve the loaded hotkeys by saving them to a file or reset to the default hotkey set.
+</source>
+        <translation>O arquivo do conjunto de atalhos “%1” não foi encontrado.
+
+Você pode preservar os atalhos carregados salvando-os em um arquivo ou voltar ao conjunto de atalhos padrão.
+</translation>
+    </message>
+    <message>
+        <source>The file for hotkey set &apos;%1&apos; cannot be found.
+
+The missing set will be removed from the list.
+</source>
+        <translation>O arquivo do conjunto de atalhos “%1” não foi encontrado.
+
+O conjunto ausente será removido da lista.
+</translation>
+    </message>
+    <message>
+        <source>Hotkey File Already Exists</source>
+        <translation>O arquivo de atalhos já existe</translation>
+    </message>
+    <message>
+        <source>%1 already exists in the User Customization folder.
+
+Do you want to replace it?</source>
+        <translation>%1 já existe na pasta de personalização do usuário.
+
+Deseja substituí-lo?</translation>
+    </message>
+    <message>
+        <source>Save Changes Error</source>
+        <translation>Erro ao salvar as alterações</translation>
+    </message>
+    <message>
+        <source>Cannot overwrite a locked preset file!</source>
+        <translation>Não é possível substituir um arquivo de predefinição bloqueado!</translation>
+    </message>
+    <message>
+        <source>The hotkeys cannot be saved to %1.
+
+Your changes are still here.
+</source>
+        <translation>Não é possível salvar os atalhos em %1.
+
+Suas alterações foram mantidas.
+</translation>
+    </message>
+    <message>
+        <source>Open Log File</source>
+        <translation>Abrir arquivo de log</translation>
+    </message>
+    <message>
+        <source>Hotkey Set Not Loaded</source>
+        <translation>Conjunto de atalhos não carregado</translation>
+    </message>
+    <message>
+        <source>%1 cannot be loaded.
+
+See the log for more details.</source>
+        <translation>Não é possível carregar %1.
+
+Consulte o log para obter mais detalhes.</translation>
+    </message>
+    <message>
+        <source>Hotkey File Converted</source>
+        <translation>Arquivo de atalhos convertido</translation>
+    </message>
+    <message>
+        <source>%1 was successfully converted and loaded.
+
+The new file, %2, is saved in your User Settings folder.</source>
+        <translation>%1 foi convertido e carregado com sucesso.
+
+O novo arquivo, %2, foi salvo na sua pasta de configurações do usuário.</translation>
+    </message>
+    <message>
+        <source>Open File Location</source>
+        <translation>Abrir local do arquivo</translation>
+    </message>
+    <message>
+        <source>Hotkeys Conversion Failed</source>
+        <translation>Falha na conversão dos atalhos</translation>
+    </message>
+    <message>
+        <source>Something went wrong while converting %1.
+
+See the log for more details.</source>
+        <translation>Ocorreu um erro ao converter %1.
+
+Consulte o log para obter mais detalhes.</translation>
+    </message>
+    <message>
+        <source>Xml File valid!! According to schema definition.</source>
+        <translation>O arquivo XML é válido de acordo com a definição do esquema.</translation>
+    </message>
+    <message>
+        <source>Xml File invalid!! According to schema definition.</source>
+        <translation>O arquivo XML é inválido de acordo com a definição do esquema.</translation>
+    </message>
+    <message>
+        <source>Hotkey Set File (*.%1)</source>
+        <translation>Arquivo de conjunto de atalhos (*.%1)</translation>
+    </message>
+    <message>
+        <source>Shortcut File (*.%1)</source>
+        <translation>Arquivo de atalhos (*.%1)</translation>
+    </message>
+    <message>
+        <source>Save Hotkey Set As</source>
+        <translation>Salvar conjunto de atalhos como</translation>
+    </message>
+    <message>
+        <source>Load Hotkey Set</source>
+        <translation>Carregar conjunto de atalhos</translation>
+    </message>
+    <message>
+        <source>Convert Legacy Hotkeys</source>
+        <translation>Converter atalhos antigos</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts (*.%1)</source>
+        <translation>Atalhos de teclado (*.%1)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Salvar como...</translation>
+    </message>
+    <message>
+        <source>Load From File...</source>
+        <translation>Carregar do arquivo...</translation>
+    </message>
+    <message>
+        <source>Import Legacy Hotkeys...</source>
+        <translation>Importar atalhos antigos...</translation>
+    </message>
+    <message>
+        <source>Shortcut Transformation List</source>
+        <translation>Lista de alterações de atalhos</translation>
+    </message>
+</context>
+</TS>

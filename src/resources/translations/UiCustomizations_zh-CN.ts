@@ -1,0 +1,471 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>CUI</name>
+    <message>
+        <source>Velstudio Default Keyset</source>
+        <translation>Velstudio 默认快捷键集</translation>
+    </message>
+    <message>
+        <source>Zarvi Default Keyset</source>
+        <translation>Zarvi 默认快捷键集</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelActionItemModel</name>
+    <message>
+        <source>Action</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>类别</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelAssignedShortcutListItem</name>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Successfully removed</source>
+        <translation>已成功移除</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelMessageLogWidget</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Clear Log</source>
+        <translation>清除日志</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelPresetComboBox</name>
+    <message>
+        <source>[Unsaved Changes*]</source>
+        <translation>[未保存的更改*]</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelShortcutManager</name>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>到</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <translation>自</translation>
+    </message>
+</context>
+<context>
+    <name>QvelCustomizeUiDialog</name>
+    <message>
+        <source>All Groups</source>
+        <translation>所有组</translation>
+    </message>
+    <message>
+        <source>All Actions</source>
+        <translation>所有操作</translation>
+    </message>
+    <message>
+        <source>Assigned Hotkeys Only</source>
+        <translation>仅已指定的快捷键</translation>
+    </message>
+    <message>
+        <source>Customized Hotkeys Only</source>
+        <translation>仅自定义的快捷键</translation>
+    </message>
+    <message>
+        <source>Unsaved Hotkeys Only</source>
+        <translation>仅未保存的快捷键</translation>
+    </message>
+</context>
+<context>
+    <name>QvelMenusWidget</name>
+    <message>
+        <source>QvelMenusWidget</source>
+        <translation>菜单</translation>
+    </message>
+</context>
+<context>
+    <name>QvelShortcutsWidget</name>
+    <message>
+        <source>QvelShortcutsWidget</source>
+        <translation>快捷键编辑器</translation>
+    </message>
+    <message>
+        <source>Type to search by Hotkeys...</source>
+        <translation>按快捷键搜索...</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>按操作搜索...</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>输入以搜索...</translation>
+    </message>
+    <message>
+        <source>Press and hold to temporarily activate.</source>
+        <translation>按住可临时激活。</translation>
+    </message>
+    <message>
+        <source>No action selected</source>
+        <translation>未选择操作</translation>
+    </message>
+    <message>
+        <source>Select an action in the table to edit its hotkeys.</source>
+        <translation>在表格中选择一个操作以编辑其快捷键。</translation>
+    </message>
+    <message>
+        <source>Select an action in the table on the left to edit its hotkeys</source>
+        <translation>在左侧表格中选择一个操作以编辑其快捷键</translation>
+    </message>
+    <message>
+        <source>Too Many Hotkeys</source>
+        <translation>快捷键过多</translation>
+    </message>
+    <message>
+        <source>An action can have at most %1 hotkeys.
+
+Remove one of them before you assign another.
+</source>
+        <translation>一个操作最多可以有 %1 个快捷键。
+
+请先移除其中一个，然后再指定新的快捷键。
+</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save changes...</source>
+        <translation>将更改保存到当前快捷键集；如果该集已锁定，则保存到新的快捷键集。</translation>
+    </message>
+    <message>
+        <source>Hotkey Set:</source>
+        <translation>快捷键集：</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Save, load...</source>
+        <translation>保存、加载、重置或导入快捷键集。</translation>
+    </message>
+    <message>
+        <source>Change the active...</source>
+        <translation>切换当前使用的快捷键集。</translation>
+    </message>
+    <message>
+        <source>Filter the list... assigned</source>
+        <translation>按快捷键的状态（已指定、自定义或未保存）过滤操作列表。</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>组：</translation>
+    </message>
+    <message>
+        <source>Filter the list...context</source>
+        <translation>按所属的组过滤操作列表。</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>过滤器：</translation>
+    </message>
+    <message>
+        <source>Press keys and modifiers...</source>
+        <translation>输入操作名称的一部分；按快捷键搜索时，请按下要查找的组合键。</translation>
+    </message>
+    <message>
+        <source>Hotkeys</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Search will be... hotkey</source>
+        <translation>按快捷键搜索：请按下要查找的组合键。</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Search will be... action</source>
+        <translation>按操作搜索：请输入名称的一部分。</translation>
+    </message>
+    <message>
+        <source>Type new hotkey...</source>
+        <translation>输入新快捷键...</translation>
+    </message>
+    <message>
+        <source>Press keys and... assign</source>
+        <translation>请按下要指定给所选操作的组合键。</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>按下按键...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>指定</translation>
+    </message>
+    <message>
+        <source>Assigns the hotkey...</source>
+        <translation>将快捷键指定给所选操作。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Reassign the hotkey...</source>
+        <translation>将快捷键重新指定给原来的操作。</translation>
+    </message>
+    <message>
+        <source>Removed from:</source>
+        <translation>已移除自：</translation>
+    </message>
+    <message>
+        <source>Conflicts with:</source>
+        <translation>冲突操作：</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Removes the assignment...</source>
+        <translation>从当前使用该快捷键的操作中移除它，以便将其指定给所选操作。</translation>
+    </message>
+    <message>
+        <source>Validate Shortcut File</source>
+        <translation>验证快捷键文件</translation>
+    </message>
+    <message>
+        <source>Shortcut File Validation</source>
+        <translation>快捷键文件验证结果</translation>
+    </message>
+    <message>
+        <source>Validate Shortcut Transform File</source>
+        <translation>验证快捷键更改文件</translation>
+    </message>
+    <message>
+        <source>Shortcut Transform File Validation</source>
+        <translation>快捷键更改文件验证结果</translation>
+    </message>
+    <message>
+        <source>Save Shortcuts</source>
+        <translation>保存快捷键</translation>
+    </message>
+    <message>
+        <source>Load Shortcuts</source>
+        <translation>加载快捷键</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>未保存的更改</translation>
+    </message>
+    <message>
+        <source>Save your changes, discard them, or cancel to continue making changes.
+</source>
+        <translation>请保存或放弃更改，也可以取消以继续进行更改。
+</translation>
+    </message>
+    <message>
+        <source>Reset Hotkeys</source>
+        <translation>重置快捷键</translation>
+    </message>
+    <message>
+        <source>Reset to discard all unsaved changes.
+</source>
+        <translation>重置将放弃所有未保存的更改。
+</translation>
+    </message>
+    <message>
+        <source>File not Found</source>
+        <translation>找不到文件</translation>
+    </message>
+    <message>
+        <source>The file for hotkey set &apos;%1&apos; cannot be found.
+
+You can either preserve the loaded hotkeys by saving them to a file or reset to the default hotkey set.
+</source>
+        <translation>找不到快捷键集“%1”的文件。
+
+您可以将已加载的快捷键保存到文件中，也可以重置为默认快捷键集。
+</translation>
+    </message>
+    <message>
+        <source>The file for hotkey set &apos;%1&apos; cannot be found.
+
+The missing set will be removed from the list.
+</source>
+        <translation>找不到快捷键集“%1”的文件。
+
+缺少的快捷键集将从列表中移除。
+</translation>
+    </message>
+    <message>
+        <source>Hotkey File Already Exists</source>
+        <translation>快捷键文件已存在</translation>
+    </message>
+    <message>
+        <source>%1 already exists in the User Customization folder.
+
+Do you want to replace it?</source>
+        <translation>用户自定义文件夹中已存在 %1。
+
+要替换它吗？</translation>
+    </message>
+    <message>
+        <source>Save Changes Error</source>
+        <translation>保存更改时出错</translation>
+    </message>
+    <message>
+        <source>Cannot overwrite a locked preset file!</source>
+        <translation>无法覆盖已锁定的预设文件！</translation>
+    </message>
+    <message>
+        <source>The hotkeys cannot be saved to %1.
+
+Your changes are still here.
+</source>
+        <translation>无法将快捷键保存到 %1。
+
+您的更改仍然保留。
+</translation>
+    </message>
+    <message>
+        <source>Open Log File</source>
+        <translation>打开日志文件</translation>
+    </message>
+    <message>
+        <source>Hotkey Set Not Loaded</source>
+        <translation>快捷键集未加载</translation>
+    </message>
+    <message>
+        <source>%1 cannot be loaded.
+
+See the log for more details.</source>
+        <translation>无法加载 %1。
+
+有关详细信息，请参阅日志。</translation>
+    </message>
+    <message>
+        <source>Hotkey File Converted</source>
+        <translation>快捷键文件已转换</translation>
+    </message>
+    <message>
+        <source>%1 was successfully converted and loaded.
+
+The new file, %2, is saved in your User Settings folder.</source>
+        <translation>%1 已成功转换并加载。
+
+新文件 %2 保存在您的用户设置文件夹中。</translation>
+    </message>
+    <message>
+        <source>Open File Location</source>
+        <translation>打开文件位置</translation>
+    </message>
+    <message>
+        <source>Hotkeys Conversion Failed</source>
+        <translation>快捷键转换失败</translation>
+    </message>
+    <message>
+        <source>Something went wrong while converting %1.
+
+See the log for more details.</source>
+        <translation>转换 %1 时出错。
+
+有关详细信息，请参阅日志。</translation>
+    </message>
+    <message>
+        <source>Xml File valid!! According to schema definition.</source>
+        <translation>该 XML 文件有效，符合架构定义。</translation>
+    </message>
+    <message>
+        <source>Xml File invalid!! According to schema definition.</source>
+        <translation>该 XML 文件无效，不符合架构定义。</translation>
+    </message>
+    <message>
+        <source>Hotkey Set File (*.%1)</source>
+        <translation>快捷键集文件 (*.%1)</translation>
+    </message>
+    <message>
+        <source>Shortcut File (*.%1)</source>
+        <translation>快捷键文件 (*.%1)</translation>
+    </message>
+    <message>
+        <source>Save Hotkey Set As</source>
+        <translation>快捷键集另存为</translation>
+    </message>
+    <message>
+        <source>Load Hotkey Set</source>
+        <translation>加载快捷键集</translation>
+    </message>
+    <message>
+        <source>Convert Legacy Hotkeys</source>
+        <translation>转换旧版快捷键</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts (*.%1)</source>
+        <translation>键盘快捷键 (*.%1)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>另存为...</translation>
+    </message>
+    <message>
+        <source>Load From File...</source>
+        <translation>从文件加载...</translation>
+    </message>
+    <message>
+        <source>Import Legacy Hotkeys...</source>
+        <translation>导入旧版快捷键...</translation>
+    </message>
+    <message>
+        <source>Shortcut Transformation List</source>
+        <translation>快捷键更改列表</translation>
+    </message>
+</context>
+</TS>
