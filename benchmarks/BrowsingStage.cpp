@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QHeaderView>
 
 namespace CUI::Bench {
 
@@ -34,17 +33,24 @@ void Stage::select()
     m_workload.select(m_size);
 }
 
-PaintWatch::PaintWatch(QAbstractScrollArea &area) : m_area(area)
+Stage &Stages::ofSize(int actionCount)
+{
+    std::unique_ptr<Stage> &stage = m_stages[actionCount];
+    if (stage == nullptr)
+        stage = std::make_unique<Stage>(m_workload, actionCount);
+    stage->select();
+    return *stage;
+}
+
+PaintWatch::PaintWatch(QAbstractScrollArea &area)
 {
     area.viewport()->installEventFilter(this);
 }
 
 void PaintWatch::wait()
 {
-    m_area.viewport()->update();
     while (!m_isPainted)
         QCoreApplication::processEvents();
-    QCoreApplication::processEvents();
     m_isPainted = false;
 }
 
@@ -66,27 +72,43 @@ Screen::Screen(Stage &stage, std::unique_ptr<QSortFilterProxyModel> proxy)
     m_tree.setAlternatingRowColors(true);
     m_tree.setSelectionBehavior(QAbstractItemView::SelectRows);
     m_tree.setSortingEnabled(true);
-    m_tree.sortByColumn(QvelActionItemModel::ActionColumn, Qt::AscendingOrder);
-    m_tree.resize(900, 700);
+    const int character = m_tree.fontMetrics().averageCharWidth();
+    m_tree.setColumnWidth(QvelActionItemModel::ActionColumn, 35 * character);
+    m_tree.setColumnWidth(QvelActionItemModel::HotkeyColumn, 25 * character);
+    m_tree.setColumnWidth(QvelActionItemModel::GroupColumn, 20 * character);
+    m_tree.resize(800, 600);
     m_tree.show();
+    sort(QvelActionItemModel::ActionColumn, Qt::AscendingOrder);
+}
+
+void Screen::sort(int column, Qt::SortOrder order)
+{
+    m_tree.sortByColumn(column, order);
     untilPainted();
 }
 
-Subject::Subject(Stage &stage)
+SearchScreen::SearchScreen(Stage &stage)
     : Screen(stage, std::make_unique<QvelSortFilterProxyModel>(&stage.store()))
 {
     search().setActionSearchSorting(true);
 }
 
-void Subject::type(const QString &text)
+void SearchScreen::searchHotkeys()
+{
+    search().setActionSearchSorting(false);
+    search().setFilterKeyColumn(QvelActionItemModel::HotkeyColumn);
+    sort(QvelActionItemModel::HotkeyColumn, Qt::AscendingOrder);
+}
+
+void SearchScreen::type(const QString &text)
 {
     search().updateFilterString(text);
     untilPainted();
 }
 
-BareProxy::BareProxy(Stage &stage) : Screen(stage, std::make_unique<QSortFilterProxyModel>()) { }
+BareScreen::BareScreen(Stage &stage) : Screen(stage, std::make_unique<QSortFilterProxyModel>()) { }
 
-void BareProxy::type(const QString &text)
+void BareScreen::type(const QString &text)
 {
     proxy().setFilterFixedString(text);
     proxy().invalidate();

@@ -7,8 +7,10 @@
 #include <QAbstractScrollArea>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QTreeView>
 
+#include <map>
 #include <memory>
 
 namespace CUI::Bench {
@@ -27,6 +29,7 @@ public:
     int size() const { return m_size; }
     QvelShortcutManager &store() { return m_store; }
     QvelActionItemModel &model() { return *m_model; }
+    QString text(int row, int column) { return m_model->item(row, column)->text(); }
     /// Makes the registry of this stage the installed one.
     void select();
 
@@ -37,24 +40,35 @@ private:
     std::unique_ptr<QvelActionItemModel> m_model;
 };
 
-/// Tells when a scroll area that is shown has been painted anew.
+/// The stages of the rows, each made when the first row needs it.
+class Stages
+{
+public:
+    explicit Stages(Workload &workload) : m_workload(workload) { }
+
+    Stage &ofSize(int actionCount);
+
+private:
+    Workload &m_workload;
+    std::map<int, std::unique_ptr<Stage>> m_stages;
+};
+
+/// Tells when a scroll area that is shown has been painted.
 class PaintWatch : public QObject
 {
 public:
     explicit PaintWatch(QAbstractScrollArea &area);
 
-    /// Handles events until the area has been painted since the last call and nothing is left to
-    /// do.
+    /// Handles events until something of the area has been painted since the last call.
     void wait();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QAbstractScrollArea &m_area;
     bool m_isPainted = false;
 };
 
-/// A proxy in the tree view that the editor shows it in.
+/// A proxy in a tree view like the editor's.
 class Screen
 {
 public:
@@ -62,9 +76,13 @@ public:
 
     QSortFilterProxyModel &proxy() { return *m_proxy; }
     int rowCount() const { return m_proxy->rowCount(); }
-    QString nameIn(int row) const { return m_proxy->index(row, 0).data().toString(); }
+    QString text(int row, int column) const
+    {
+        return m_proxy->index(row, column).data().toString();
+    }
 
-    void sort(int column, Qt::SortOrder order) { m_tree.sortByColumn(column, order); }
+    /// Each returns when the outcome is on the screen.
+    void sort(int column, Qt::SortOrder order);
     void untilPainted() { m_watch.wait(); }
 
 private:
@@ -73,31 +91,38 @@ private:
     PaintWatch m_watch;
 };
 
-/// A search as a user types it.
+/// Something that is searched by typing.
 class Searcher
 {
 public:
     virtual ~Searcher() = default;
+    /// Replaces the text and returns when the outcome is on the screen.
     virtual void type(const QString &text) = 0;
+    /// How many actions are listed.
+    virtual int listedCount() const = 0;
 };
 
-/// The proxy under test, sorted by name and how well it matches.
-class Subject : public Screen, public Searcher
+/// The proxy that is measured, in a search by name.
+class SearchScreen : public Screen, public Searcher
 {
 public:
-    explicit Subject(Stage &stage);
+    explicit SearchScreen(Stage &stage);
 
     QvelSortFilterProxyModel &search() { return static_cast<QvelSortFilterProxyModel &>(proxy()); }
+    /// Searches by hotkey and sorts by it from here on.
+    void searchHotkeys();
     void type(const QString &text) override;
+    int listedCount() const override { return rowCount(); }
 };
 
-/// The bare proxy, sorted by name.
-class BareProxy : public Screen, public Searcher
+/// The toolkit's proxy, sorted by name.
+class BareScreen : public Screen, public Searcher
 {
 public:
-    explicit BareProxy(Stage &stage);
+    explicit BareScreen(Stage &stage);
 
     void type(const QString &text) override;
+    int listedCount() const override { return rowCount(); }
 };
 
 } // namespace CUI::Bench

@@ -55,6 +55,12 @@ public:
     /// Loads @p configuration into @p store, with its registry installed.
     void load(const Configuration &configuration, QvelShortcutManager &store);
 
+    /// Makes these the directories of the shipped and of the user's sets.
+    void listSetsIn(const QString &shipped, const QString &user)
+    {
+        m_paths->setPresetDirectories(shipped, user);
+    }
+
     QString directory() const { return m_directory.path(); }
 
 private:

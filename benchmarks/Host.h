@@ -83,16 +83,21 @@ private:
     Actions *m_selected;
 };
 
-/// Names the one base file that is to be loaded.
+/// Names the one base file that is to be loaded, and the directories of the sets.
 class Paths : public IPathManager
 {
 public:
     void setBaseHotkeyFile(const QString &path) { m_baseHotkeyFile = path; }
+    void setPresetDirectories(const QString &shipped, const QString &user)
+    {
+        m_defaultPresetDirectory = shipped;
+        m_userPresetDirectory = user;
+    }
 
     QString getLogFilePath() const override { return {}; }
     QString getLegacyHotkeyDirectory() const override { return {}; }
-    QString getDefaultPresetDirectory() const override { return {}; }
-    QString getUserPresetDirectory() const override { return {}; }
+    QString getDefaultPresetDirectory() const override { return m_defaultPresetDirectory; }
+    QString getUserPresetDirectory() const override { return m_userPresetDirectory; }
     QString getCurrentConfigurationFile(ConfigType) const override { return {}; }
     QString getDefaultConfigurationFile(ConfigType) const override { return {}; }
     void setCurrentConfigurationFile(ConfigType, const QString &) override { }
@@ -100,6 +105,8 @@ public:
 
 private:
     QString m_baseHotkeyFile;
+    QString m_defaultPresetDirectory;
+    QString m_userPresetDirectory;
 };
 
 } // namespace CUI::Bench

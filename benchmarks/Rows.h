@@ -12,14 +12,18 @@
 
 namespace CUI::Bench {
 
+class Stages;
 class Workload;
 
-/// The rows of the table, each file its own. They keep a reference to @p workload.
+/// The rows of the table, each file its own. They keep a reference to the argument.
 void addSchemaRows(Workload &workload);
 void addLoadRows(Workload &workload);
 void addStoreRows(Workload &workload);
 void addEditRows(Workload &workload);
 void addCollapseRows();
+void addPresetRows(Workload &workload);
+void addTypingRows(Stages &stages);
+void addTableRows(Stages &stages);
 
 /// Registers a row that is measured in that many rounds. @p rival says what it is compared with.
 template <typename Measure>

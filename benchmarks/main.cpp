@@ -1,7 +1,8 @@
+#include "BrowsingStage.h"
 #include "Configuration.h"
 #include "Rows.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include <cstdio>
 
@@ -9,7 +10,7 @@ using namespace CUI::Bench;
 
 int main(int argc, char **argv)
 {
-    QCoreApplication application(argc, argv);
+    QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
@@ -20,6 +21,10 @@ int main(int argc, char **argv)
     addStoreRows(workload);
     addEditRows(workload);
     addCollapseRows();
+    addPresetRows(workload);
+    Stages stages(workload);
+    addTypingRows(stages);
+    addTableRows(stages);
 
     Table table;
     const std::size_t rows = benchmark::RunSpecifiedBenchmarks(&table);

@@ -1,52 +1,68 @@
 #include "ActionNameRank.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace CUI {
 
-namespace {
-
-const QLatin1Char blank(' ');
-
-bool startsWith(const QString &name, const QString &text)
+ActionNameRank::Phrase::Phrase(const QString &phrase)
+    : text(phrase),
+      inside(QLatin1Char(' ') + phrase + QLatin1Char(' ')),
+      atEnd(QLatin1Char(' ') + phrase),
+      atStart(phrase + QLatin1Char(' '))
 {
-    return name.startsWith(text, Qt::CaseInsensitive);
 }
 
-bool contains(const QString &name, const QString &text)
+ActionNameRank::Search::Search(const QString &text) : whole(text)
 {
-    return name.contains(text, Qt::CaseInsensitive);
+    for (const QString &word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        words.emplace_back(word);
 }
 
-bool containsBetweenBlanks(const QString &name, const QString &text)
+ActionNameRank::Rank ActionNameRank::Search::rank(const QString &name,
+                                                  Qt::CaseSensitivity sensitivity) const
 {
-    return contains(name, blank + text + blank) || name.endsWith(blank + text, Qt::CaseInsensitive);
-}
+    using Proxy = QvelSortFilterProxyModel;
+    const auto isBetweenBlanks = [&](const Phrase &phrase) {
+        return name.contains(phrase.inside, sensitivity)
+               || name.endsWith(phrase.atEnd, sensitivity);
+    };
+    const auto isWord = [&](const Phrase &word) {
+        return isBetweenBlanks(word) || name.startsWith(word.atStart, sensitivity);
+    };
+    const auto isPart = [&](const Phrase &word) { return name.contains(word.text, sensitivity); };
 
-} // namespace
+    if (name.startsWith(whole.text, sensitivity))
+        return Proxy::StartsWithSearch;
+    if (isPart(whole))
+        return isBetweenBlanks(whole) ? Proxy::ContainsSearchAsWord : Proxy::ContainsSearch;
+    if (std::any_of(words.begin(), words.end(), isWord))
+        return Proxy::ContainsWordAsWord;
+    if (std::any_of(words.begin(), words.end(), isPart))
+        return Proxy::ContainsWord;
+    return Proxy::NoMatch;
+}
 
 ActionNameRank::ActionNameRank(const QString &search)
-    : m_search(search), m_words(search.split(blank, Qt::SkipEmptyParts))
+    : m_exact(search), m_folded(FoldedText(search).text), m_isSimple(FoldedText(search).isSimple)
 {
 }
 
-QvelSortFilterProxyModel::ActionSearchingSortOrder ActionNameRank::rank(const QString &name) const
+ActionNameRank::Rank ActionNameRank::rank(const QString &name) const
 {
-    if (startsWith(name, m_search))
-        return QvelSortFilterProxyModel::StartsWithSearch;
-    if (containsBetweenBlanks(name, m_search))
-        return QvelSortFilterProxyModel::ContainsSearchAsWord;
-    if (contains(name, m_search))
-        return QvelSortFilterProxyModel::ContainsSearch;
-    const auto isWord = [&name](const QString &word) {
-        return containsBetweenBlanks(name, word) || startsWith(name, word + blank);
-    };
-    if (std::any_of(m_words.begin(), m_words.end(), isWord))
-        return QvelSortFilterProxyModel::ContainsWordAsWord;
-    const auto isPart = [&name](const QString &word) { return contains(name, word); };
-    if (std::any_of(m_words.begin(), m_words.end(), isPart))
-        return QvelSortFilterProxyModel::ContainsWord;
-    return QvelSortFilterProxyModel::NoMatch;
+    return m_exact.rank(name, Qt::CaseInsensitive);
+}
+
+ActionNameRank::Rank ActionNameRank::rank(const FoldedText &name) const
+{
+    return m_folded.rank(name.text, Qt::CaseSensitive);
+}
+
+bool ActionNameRank::holdsEveryWord(const FoldedText &name) const
+{
+    return std::all_of(m_folded.words.begin(), m_folded.words.end(),
+                       [&name](const Phrase &word) { return name.text.contains(word.text); });
 }
 
 } // namespace CUI

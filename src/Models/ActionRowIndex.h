@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <cstdint>
 #include <unordered_map>
 #include <vector>
 
@@ -21,15 +22,16 @@ class ActionRowIndex
 {
 public:
     struct Row {
-        VelAction *action; ///< never looked into
+        VelAction *action; ///< not looked into again
         ActionIdentifier identifier;
         unsigned long contextId;
         QString hotkeys; ///< as the cell shows them
     };
 
     void clear();
-    /// Adds the next row.
-    void append(VelAction *action, const QString &hotkeys);
+    void reserve(std::size_t rows);
+    /// Adds the next row, without hotkeys.
+    void append(VelAction *action);
     void setHotkeys(int row, const QString &hotkeys);
 
     int rowCount() const { return static_cast<int>(m_rows.size()); }
@@ -37,10 +39,17 @@ public:
 
     /// The first row of the action, or -1.
     int rowOfAction(const ActionIdentifier &identifier) const;
+    /// The same for many actions, in their order.
+    std::vector<int> rowsOfActions(const std::vector<const ActionIdentifier *> &identifiers) const;
     /// The first row of the context whose hotkeys contain @p hotkey, letter case ignored, or -1.
     int rowOfHotkey(const QString &hotkey, unsigned long contextId) const;
 
 private:
+    /// A place of an open hash table. There are always more places than rows.
+    struct Place {
+        std::uint32_t hash = 0;
+        int row = -1;
+    };
     struct Key {
         CaseFoldedText hotkey;
         unsigned long contextId;
@@ -57,12 +66,20 @@ private:
         }
     };
 
-    void addHotkeys(int row);
-    void removeHotkeys(int row);
+    static std::uint32_t hashOf(const ActionIdentifier &identifier);
+    std::size_t placeOf(const ActionIdentifier &identifier, std::uint32_t hash) const;
+    std::size_t placeOfHash(std::uint32_t hash, std::size_t start) const;
+    void enlarge(std::size_t places);
+    void readHotkeys() const;
+    void addHotkeys(int row) const;
+    void removeHotkeys(int row) const;
 
     std::vector<Row> m_rows;
-    std::unordered_map<ActionIdentifier, int> m_rowsOfActions;
-    std::unordered_map<Key, std::vector<int>, KeyHash> m_rowsOfHotkeys; // in ascending order
+    std::vector<Place> m_places; // a power of two of them
+
+    // Filled at the first question: a table can be shown and edited without one.
+    mutable std::unordered_map<Key, std::vector<int>, KeyHash> m_rowsOfHotkeys; // ascending rows
+    mutable bool m_areHotkeysRead = false;
 };
 
 } // namespace CUI

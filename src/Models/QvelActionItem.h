@@ -21,6 +21,11 @@ public:
     QvelActionItem(const QString &text, VelAction *action) : QStandardItem(text), m_action(action)
     {
     }
+    /// A cell with the data of @p other. The two share its memory until one of them changes.
+    QvelActionItem(const QvelActionItem &other, VelAction *action)
+        : QStandardItem(other), m_action(action)
+    {
+    }
     ~QvelActionItem() override = default;
 
     /// The action that the row shows, or null.

@@ -1,6 +1,7 @@
 #include "QvelSortFilterProxyModel.h"
 
 #include "ActionNameRank.h"
+#include "HotkeyMatcher.h"
 #include "HotkeyOrder.h"
 #include "HotkeyParts.h"
 #include "QvelShortcutManager.h"
@@ -25,6 +26,9 @@ QStringList hotkeysOf(const QString &text)
 {
     return text.split(QLatin1String(", "));
 }
+
+/// What the regular expression of a search asks for.
+enum class Expression { None, OfWords, OfHotkey };
 
 /// The columns that decide when the texts of @p column are equal.
 const Columns &tieBreakers(int column)
@@ -64,8 +68,12 @@ public:
         return m_proxy.filterKeyColumn() == QvelActionItemModel::HotkeyColumn;
     }
 
+    /// Replaces the search by one without an expression.
     void setSearch(const QString &text);
+    void searchWords();
+    void searchHotkey();
     void refilter();
+    bool passesSearch(ActionRow &row) const;
     bool passesHotkeyFilter(const ActionRow &row);
 
     /// \name The order of two cells of a column, given by the numbers of their texts
@@ -83,6 +91,8 @@ public:
     QString selectedCategory = noCategory;
     QPointer<QvelShortcutManager> manager;
     QRegularExpression expression{QString(), QRegularExpression::CaseInsensitiveOption};
+    Expression expressionKind = Expression::None;
+    HotkeyMatcher hotkeyMatcher;
 
     SourceRows rows;
     HotkeyOrder hotkeys;
@@ -99,8 +109,9 @@ private:
     QvelSortFilterProxyModel &m_proxy;
 
     // Both by the number of a text, for the numbers of one generation.
-    std::vector<signed char> m_ranks;
-    unsigned m_generationOfRanks = 0;
+    std::vector<signed char> m_ranks; // negative where it is not known yet
+    std::vector<FoldedText> m_foldedNames;
+    unsigned m_generationOfNames = 0;
     std::vector<SortedHotkey> m_sortedHotkeys;
     unsigned m_generationOfHotkeys = 0;
 
@@ -112,14 +123,47 @@ void QvelSortFilterProxyModel::Private::setSearch(const QString &text)
 {
     search = ActionNameRank(text);
     expression.setPattern(QString());
+    expressionKind = Expression::None;
     m_ranks.clear();
     ++m_searchCount;
+}
+
+void QvelSortFilterProxyModel::Private::searchWords()
+{
+    expression.setPattern(SearchPattern::ofWords(search.search()));
+    expressionKind = Expression::OfWords;
+}
+
+void QvelSortFilterProxyModel::Private::searchHotkey()
+{
+    const QStringList parts = m_proxy.getModifierAndKey(search.search(), QKeySequence::PortableText,
+                                                        QKeySequence::PortableText);
+    expression.setPattern(SearchPattern::ofHotkey(parts));
+    hotkeyMatcher = HotkeyMatcher(parts);
+    expressionKind = Expression::OfHotkey;
 }
 
 void QvelSortFilterProxyModel::Private::refilter()
 {
     m_proxy.invalidate();
     Q_EMIT m_proxy.filterInvalidated();
+}
+
+bool QvelSortFilterProxyModel::Private::passesSearch(ActionRow &row) const
+{
+    if (expressionKind == Expression::None)
+        return true;
+    if (m_proxy.filterKeyColumn() == QvelActionItemModel::ActionColumn) {
+        const bool isSimple = expressionKind == Expression::OfWords && search.isSimple()
+                              && row.foldedName.isSimple;
+        return isSimple ? search.holdsEveryWord(row.foldedName)
+                        : m_proxy.getRegularExpressionResult(row.name);
+    }
+    const QString text = row.hotkeyItem->text();
+    if (expressionKind == Expression::OfHotkey && isHotkeySearch() && hotkeyMatcher.isSimple()
+        && !text.isEmpty() && row.foldedHotkeys(text).isSimple)
+        return hotkeyMatcher.matches(row.foldedHotkeys(text));
+    return m_proxy.getRegularExpressionResult(text);
 }
 
 bool QvelSortFilterProxyModel::Private::passesHotkeyFilter(const ActionRow &row)
@@ -162,15 +206,23 @@ bool QvelSortFilterProxyModel::Private::isBaseLess(const QModelIndex &left,
 int QvelSortFilterProxyModel::Private::rankOfName(int number)
 {
     const SourceColumn &names = rows.column(QvelActionItemModel::ActionColumn);
-    if (names.generation != m_generationOfRanks) {
+    if (names.generation != m_generationOfNames) {
         m_ranks.clear();
-        m_generationOfRanks = names.generation;
+        m_foldedNames.clear();
+        m_generationOfNames = names.generation;
     }
-    if (number >= static_cast<int>(m_ranks.size()))
+    const auto place = static_cast<std::size_t>(number);
+    if (place >= m_ranks.size())
         m_ranks.resize(static_cast<std::size_t>(names.texts.size()), -1);
-    signed char &rank = m_ranks[static_cast<std::size_t>(number)];
-    if (rank < 0)
-        rank = static_cast<signed char>(search.rank(names.texts.text(number)));
+    signed char &rank = m_ranks[place];
+    if (rank < 0) {
+        while (m_foldedNames.size() <= place)
+            m_foldedNames.emplace_back(names.texts.text(static_cast<int>(m_foldedNames.size())));
+        const FoldedText &folded = m_foldedNames[place];
+        rank = static_cast<signed char>(search.isSimple() && folded.isSimple
+                                                ? search.rank(folded)
+                                                : search.rank(names.texts.text(number)));
+    }
     return rank;
 }
 
@@ -210,16 +262,17 @@ bool QvelSortFilterProxyModel::updateFilterString(const QString &text)
 {
     const QString search = text.trimmed();
     d->setSearch(search.isEmpty() ? QString() : search);
-    if (!search.isEmpty() && filterKeyColumn() == QvelActionItemModel::ActionColumn) {
-        d->expression.setPattern(SearchPattern::ofWords(search));
-    } else if (!search.isEmpty() && d->isHotkeySearch()) {
-        d->expression.setPattern(SearchPattern::ofHotkey(
-                getModifierAndKey(search, QKeySequence::PortableText, QKeySequence::PortableText)));
+    if (!search.isEmpty() && d->isHotkeySearch()) {
+        d->searchHotkey();
         invalidate();
         return true;
     }
+    const bool isActive =
+            !search.isEmpty() && filterKeyColumn() == QvelActionItemModel::ActionColumn;
+    if (isActive)
+        d->searchWords();
     d->refilter();
-    return !d->expression.pattern().isEmpty();
+    return isActive;
 }
 
 void QvelSortFilterProxyModel::setActionSearchSorting(bool enabled)
@@ -257,19 +310,17 @@ void QvelSortFilterProxyModel::setSelectedHotkeyFilter(HotkeyFilter filter)
 bool QvelSortFilterProxyModel::filterAcceptsRow(int sourceRow,
                                                 const QModelIndex &sourceParent) const
 {
+    if (d->rows.model() != sourceModel())
+        d->rows.setModel(sourceModel()); // it was set while this object's signals were blocked
     const QStandardItem *item = d->rows.hotkeyItem(sourceRow, sourceParent);
-    const ActionRow &row = d->rows.row(sourceRow, sourceParent, item);
+    ActionRow &row = d->rows.row(sourceRow, sourceParent, item);
     if (row.action == nullptr)
         return false;
     if (d->hasContextFilter && row.contextId != d->selectedContext)
         return false;
     if (d->selectedCategory != noCategory && row.category != d->selectedCategory)
         return false;
-    const bool isByName = filterKeyColumn() == QvelActionItemModel::ActionColumn;
-    if (!d->expression.pattern().isEmpty()
-        && !getRegularExpressionResult(isByName ? row.name : item->text()))
-        return false;
-    return d->passesHotkeyFilter(row);
+    return d->passesSearch(row) && d->passesHotkeyFilter(row);
 }
 
 bool QvelSortFilterProxyModel::lessThan(const QModelIndex &left, const QModelIndex &right) const
@@ -289,8 +340,8 @@ bool QvelSortFilterProxyModel::lessThan(const QModelIndex &left, const QModelInd
     }
 
     const RankedTexts &texts = d->rows.column(l.column()).texts;
-    const bool isLeftEmpty = texts.text(a).isEmpty();
-    const bool isRightEmpty = texts.text(b).isEmpty();
+    const bool isLeftEmpty = texts.isEmpty(a);
+    const bool isRightEmpty = texts.isEmpty(b);
     if (isLeftEmpty || isRightEmpty)
         return isLeftEmpty != isRightEmpty && isLeftEmpty == (sortOrder() == Qt::DescendingOrder);
 
@@ -326,13 +377,10 @@ QStringList QvelSortFilterProxyModel::getModifierAndKey(
 
 bool QvelSortFilterProxyModel::getRegularExpressionResult(const QString &text) const
 {
-    static const QRegularExpression separator(QStringLiteral(",\\s+"));
-    if (d->expression.pattern().isEmpty() || text.isEmpty())
+    if (d->expressionKind == Expression::None || text.isEmpty())
         return false;
-    if (!d->isHotkeySearch() || !text.contains(QLatin1Char(',')))
-        return d->expression.match(text).hasMatch();
-    QString hotkeys = text;
-    return d->expression.match(hotkeys.replace(separator, QStringLiteral(" "))).hasMatch();
+    const QString searched = d->isHotkeySearch() ? SearchPattern::withoutSeparators(text) : text;
+    return d->expression.match(searched).hasMatch();
 }
 
 QString QvelSortFilterProxyModel::getSearchedHotkey(const QStringList &hotkeys) const

@@ -13,6 +13,8 @@ int RankedTexts::add(const QString &text)
     const int number = size();
     m_texts.push_back(text);
     m_numbers.insert(text, number);
+    if (text.isEmpty())
+        m_empty = number;
     return number;
 }
 
@@ -21,6 +23,7 @@ void RankedTexts::clear()
     m_numbers.clear();
     m_texts.clear();
     m_ranks.clear();
+    m_empty = -1;
     m_comparisons = 0;
 }
 

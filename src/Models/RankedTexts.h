@@ -38,6 +38,7 @@ public:
 
     int size() const { return static_cast<int>(m_texts.size()); }
     const QString &text(int number) const { return m_texts[static_cast<std::size_t>(number)]; }
+    bool isEmpty(int number) const { return number == m_empty; }
 
     bool less(int a, int b, const TextOrder &order)
     {
@@ -60,6 +61,7 @@ private:
 
     QHash<QString, int> m_numbers;
     std::vector<QString> m_texts;
+    int m_empty = -1; // the number of the empty text, if there is one
     std::vector<int> m_ranks; // of the first of the texts; equal for texts the order holds equal
     TextOrder m_order;
     int m_comparisons = 0; // as texts, since the last ranking

@@ -21,4 +21,13 @@ QString ofHotkey(const QStringList &parts)
     return pattern + QLatin1String("(.*)");
 }
 
+QString withoutSeparators(const QString &hotkeys)
+{
+    static const QRegularExpression separator(QStringLiteral(",\\s+"));
+    if (!hotkeys.contains(QLatin1Char(',')))
+        return hotkeys;
+    QString result = hotkeys;
+    return result.replace(separator, QStringLiteral(" "));
+}
+
 } // namespace CUI::SearchPattern

@@ -15,5 +15,8 @@ QString ofWords(const QString &search);
 /// which is the last part, as a whole.
 QString ofHotkey(const QStringList &parts);
 
+/// The text of a hotkey cell as the latter is matched with it: with blanks between the hotkeys.
+QString withoutSeparators(const QString &hotkeys);
+
 } // namespace SearchPattern
 } // namespace CUI

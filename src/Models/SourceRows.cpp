@@ -2,6 +2,7 @@
 
 #include "QvelActionItem.h"
 #include "QvelActionItemModel.h"
+#include "SearchPattern.h"
 #include "VelAction.h"
 
 #include <QStandardItemModel>
@@ -30,6 +31,7 @@ ActionRow read(const QStandardItem *hotkeyItem)
         row.identifier = row.action->identifier();
         row.contextId = row.action->contextId();
         row.name = row.action->name();
+        row.foldedName = FoldedText(row.name);
         row.category = row.action->category();
     }
     return row;
@@ -48,14 +50,23 @@ void dropUnused(SourceColumn &column)
 
 } // namespace
 
+const FoldedText &ActionRow::foldedHotkeys(const QString &text)
+{
+    if (m_hotkeys != text) {
+        m_hotkeys = text;
+        m_foldedHotkeys = FoldedText(SearchPattern::withoutSeparators(text));
+    }
+    return m_foldedHotkeys;
+}
+
 void SourceRows::setModel(const QAbstractItemModel *model)
 {
     forgetRows();
     m_model = model;
     m_items = qobject_cast<const QStandardItemModel *>(model);
     m_receiver = std::make_unique<QObject>();
-    for (SourceColumn &column : m_columns)
-        column.isText = true;
+    for (const auto &column : m_columns)
+        column->isText = true;
     if (m_items != nullptr)
         connectTo(*model);
 }
@@ -93,8 +104,7 @@ const QStandardItem *SourceRows::hotkeyItem(int row, const QModelIndex &parent) 
                                  : parentItem->child(row, QvelActionItemModel::HotkeyColumn);
 }
 
-const ActionRow &SourceRows::row(int number, const QModelIndex &parent,
-                                 const QStandardItem *hotkeyItem)
+ActionRow &SourceRows::row(int number, const QModelIndex &parent, const QStandardItem *hotkeyItem)
 {
     if (m_rowCount < 0)
         prepareRows();
@@ -105,26 +115,24 @@ const ActionRow &SourceRows::row(int number, const QModelIndex &parent,
     return row;
 }
 
-SourceColumn &SourceRows::column(int number)
+SourceColumn &SourceRows::addColumn(int number)
 {
     while (static_cast<int>(m_columns.size()) <= number)
-        m_columns.emplace_back();
-    return m_columns[static_cast<std::size_t>(number)];
+        m_columns.push_back(std::make_unique<SourceColumn>());
+    return *m_columns.back();
 }
 
-int SourceRows::textNumber(const QModelIndex &index, int column)
+int SourceRows::readCell(const QModelIndex &index, int column)
 {
     if (m_rowCount < 0)
         prepareRows();
     SourceColumn &texts = this->column(column);
+    const QVariant value = index.data();
     if (!covers(index) || index.column() != column)
-        return addText(texts, index.data());
+        return addText(texts, value);
     if (texts.numbers.empty())
         texts.numbers.assign(m_rows.size(), unread);
     int &number = texts.numbers[static_cast<std::size_t>(index.row())];
-    if (number >= 0)
-        return number;
-    const QVariant value = index.data();
     const bool isSame = number < unread && value.userType() == QMetaType::QString
                         && value.toString() == texts.texts.text(stale(number));
     number = isSame ? stale(number) : addText(texts, value);
@@ -155,9 +163,9 @@ void SourceRows::forgetRows()
 {
     m_rowCount = -1;
     m_rows.clear();
-    for (SourceColumn &column : m_columns) {
-        dropUnused(column);
-        column.numbers.clear();
+    for (const auto &column : m_columns) {
+        dropUnused(*column);
+        column->numbers.clear();
     }
 }
 
@@ -169,8 +177,8 @@ void SourceRows::forgetCells(const QModelIndex &topLeft, const QModelIndex &bott
     const int last = std::min(bottomRight.row(), m_rowCount - 1);
     for (int row = topLeft.row(); row <= last; ++row)
         forgetRow(row, topLeft.column(), bottomRight.column());
-    for (SourceColumn &column : m_columns)
-        dropUnused(column);
+    for (const auto &column : m_columns)
+        dropUnused(*column);
 }
 
 void SourceRows::forgetRow(int row, int firstColumn, int lastColumn)
@@ -178,7 +186,7 @@ void SourceRows::forgetRow(int row, int firstColumn, int lastColumn)
     m_rows[static_cast<std::size_t>(row)].hotkeyItem = nullptr;
     const int last = std::min(lastColumn, static_cast<int>(m_columns.size()) - 1);
     for (int column = firstColumn; column <= last; ++column) {
-        std::vector<int> &numbers = m_columns[static_cast<std::size_t>(column)].numbers;
+        std::vector<int> &numbers = m_columns[static_cast<std::size_t>(column)]->numbers;
         if (numbers.empty())
             continue;
         int &number = numbers[static_cast<std::size_t>(row)];

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ActionIdentifier.h"
+#include "FoldedText.h"
 #include "RankedTexts.h"
 
 #include <QModelIndex>
@@ -8,7 +9,6 @@
 #include <QString>
 
 #include <cstddef>
-#include <deque>
 #include <memory>
 #include <vector>
 
@@ -29,7 +29,15 @@ struct ActionRow {
     ActionIdentifier identifier;
     unsigned long contextId = 0;
     QString name;
+    FoldedText foldedName;
     QString category;
+
+    /// @p text, that of the hotkey cell, with blanks between the hotkeys instead of separators.
+    const FoldedText &foldedHotkeys(const QString &text);
+
+private:
+    QString m_hotkeys;
+    FoldedText m_foldedHotkeys; // of these
 };
 
 /// The texts of one column. Its cells know them by number.
@@ -50,16 +58,32 @@ public:
     /// Follows @p model from here on. The order of receivers is that of their connection, so this
     /// has to come before whoever asks questions in a slot of the model.
     void setModel(const QAbstractItemModel *model);
+    const QAbstractItemModel *model() const { return m_model; }
 
     /// The item in the hotkey column, or null.
     const QStandardItem *hotkeyItem(int row, const QModelIndex &parent) const;
     /// The row whose hotkey item that is. The reference is valid until the next call.
-    const ActionRow &row(int number, const QModelIndex &parent, const QStandardItem *hotkeyItem);
+    ActionRow &row(int number, const QModelIndex &parent, const QStandardItem *hotkeyItem);
 
     /// Column @p number, which is not negative. The reference stays valid.
-    SourceColumn &column(int number);
+    SourceColumn &column(int number)
+    {
+        const auto place = static_cast<std::size_t>(number);
+        return place < m_columns.size() ? *m_columns[place] : addColumn(number);
+    }
+
     /// The number of the cell's text among the texts of @p column.
-    int textNumber(const QModelIndex &index, int column);
+    int textNumber(const QModelIndex &index, int column)
+    {
+        if (covers(index) && index.column() == column) {
+            const std::vector<int> &numbers = this->column(column).numbers;
+            const auto row = static_cast<std::size_t>(index.row());
+            if (row < numbers.size() && numbers[row] >= 0)
+                return numbers[row];
+        }
+        return readCell(index, column);
+    }
+
     /// Gives all texts of the column their numbers.
     void readColumn(int number);
 
@@ -74,6 +98,8 @@ private:
         return index.row() < m_rowCount && index.internalPointer() == m_topLevel
                && index.model() == m_model;
     }
+    SourceColumn &addColumn(int number);
+    int readCell(const QModelIndex &index, int column);
     static int addText(SourceColumn &column, const QVariant &value);
 
     const QAbstractItemModel *m_model = nullptr;
@@ -83,7 +109,7 @@ private:
     int m_rowCount = -1; // negative while the rows are unknown
     const void *m_topLevel = nullptr; // what tells indexes of the top level from those of others
     std::vector<ActionRow> m_rows;
-    std::deque<SourceColumn> m_columns;
+    std::vector<std::unique_ptr<SourceColumn>> m_columns;
     ActionRow m_looseRow;
 };
 

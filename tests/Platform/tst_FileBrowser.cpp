@@ -81,7 +81,7 @@ private Q_SLOTS:
     void opensTheFolderInstead_data();
     void opensTheFolderInstead();
     void ignoresMissingFiles();
-    void opensTheFolderWithoutBus(); // the last one, for it takes the bus away
+    void opensTheFolderWhenTheBusIsGone(); // the last one
 
 private:
     void startBus();
@@ -201,7 +201,7 @@ void TestFileBrowser::ignoresMissingFiles()
     QCOMPARE(m_opened, QStringList());
 }
 
-void TestFileBrowser::opensTheFolderWithoutBus()
+void TestFileBrowser::opensTheFolderWhenTheBusIsGone()
 {
     const QString path = m_host.write(s("mine.hsx"), "x");
     m_busDaemon.kill();

@@ -131,7 +131,8 @@ private:
             report(file, line,
                    QStringLiteral("includes the widget header <%1> in layer %2")
                            .arg(name, QString::number(layer)));
-        } else if (layer == m_rules.hostLayer && !qtOrStandard.match(name).hasMatch()) {
+        } else if (layer == m_rules.hostLayer && !m_rules.outsideHeaders.contains(name)
+                   && !qtOrStandard.match(name).hasMatch()) {
             report(file, line,
                    QStringLiteral("includes <%1>, which is neither public, Qt nor standard")
                            .arg(name));

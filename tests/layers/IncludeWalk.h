@@ -24,7 +24,7 @@ struct LayerRules {
     int hostLayer = 0;
     /// Names of the headers that declare widgets, as they stand between angle brackets.
     QSet<QString> widgetHeaders;
-    /// Quoted headers that come from outside the walked folders.
+    /// Headers that come from outside the walked folders. Hosts put them in angle brackets.
     QSet<QString> outsideHeaders;
     /// The one folder whose files may ask for the operating system, with a '/' at its end.
     QString platformFolder;

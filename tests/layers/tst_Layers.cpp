@@ -45,7 +45,12 @@ const struct {
         {"src/Shortcuts/ShortcutOwnerIndex.*", Store},
         {"src/Shortcuts/QvelShortcutManager*", Store},
 
+        {"src/Models/ActionBindings.*", Widgets},
+        {"src/Models/ActionReach.*", Widgets},
+        {"src/Models/AdoptedActions.*", Widgets},
+        {"src/Models/QvelActionBinder.*", Widgets},
         {"src/Models/QvelMenusWidget.*", Widgets},
+        {"src/Models/WindowActions.*", Widgets},
         {"src/Models/*", Models},
 
         {"src/HotkeyEditor/*", Widgets},
@@ -131,7 +136,8 @@ void LayersTest::findsWhatAMadeUpTreeDoesWrong_data()
                     {list, "#include \"ActionIdentifier.h\"\n"},
                     {manager, "#include \"QShortcutsList.h\"\n#include \"VelUtil.h\"\n"},
                     {hostHeader, "#include <UiCustomizations/QvelShortcutManager.h>\n"},
-                    {host, "#include \"SampleHost.h\"\n#include <QtCore/qglobal.h>\n"},
+                    {host, "#include \"SampleHost.h\"\n#include <VelUtil.h>\n"
+                           "#include <QtCore/qglobal.h>\n"},
                     {tool, "#include \"SampleHost.h\"\n#include <QCoreApplication>\n"}}
             << QStringList();
     QTest::newRow("a value that includes the store")

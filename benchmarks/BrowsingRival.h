@@ -1,0 +1,17 @@
+#pragma once
+
+#include "BrowsingStage.h"
+
+#include <memory>
+
+namespace CUI::Bench {
+
+/// Whether the benchmarks were built with the editor of makeShortcutsEditor().
+bool hasShortcutsEditor();
+
+/// The shortcut editor of KDE Frameworks with the actions and hotkeys of a stage of that size, on
+/// as large a screen; null without it. What it waits before it
+/// searches a typed text is left out.
+std::unique_ptr<Searcher> makeShortcutsEditor(int actionCount);
+
+} // namespace CUI::Bench

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "HotkeyClaims.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QMetaObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <set>
+
+namespace CUI {
+
+class QvelShortcutManager;
+
+/// The bound actions of a QvelActionBinder, and what they show of the store.
+///
+/// Setting anything on an action runs code of the application, which may bind, unbind and destroy
+/// whatever it likes: after each such call everything is looked up again.
+class ActionBindings
+{
+public:
+    /// @p owner filters the events of the application, and receives the signals. It owns this
+    /// object.
+    ActionBindings(QObject &owner, QvelShortcutManager *manager);
+
+    void add(const ActionIdentifier &identifier, QAction *action);
+    void remove(QAction *action);
+    /// Removes all; the last call.
+    void clear();
+    ActionIdentifier identifierOf(const QAction *action) const;
+
+    void setContextWidget(unsigned long contextId, QWidget *widget);
+
+    /// Reads contexts and hotkeys of all anew.
+    void refresh();
+
+    /// Takes note of a key press, before the keys of actions are looked for.
+    void notePress(const QKeyEvent &press);
+
+    struct Answer {
+        bool isFinal = false; ///< what Qt has found must not be triggered
+        QAction *action = nullptr; ///< what must be triggered; null for nothing
+    };
+    /// What a key does for which Qt has found @p action, and others too if it is ambiguous.
+    Answer answer(const QAction *action, const QKeySequence &key, bool isAmbiguous) const;
+
+private:
+    using Actions = std::vector<QPointer<QAction>>;
+
+    struct Binding {
+        ActionIdentifier identifier;
+        // What the application wants, for the end.
+        QList<QKeySequence> ownKeys;
+        QString ownToolTip;
+        bool followsText = false; // without a tool tip of its own, an action shows its text
+        Qt::ShortcutContext ownContext = Qt::WindowShortcut;
+        // What it got here. Anything else was set by the application meanwhile.
+        QList<QKeySequence> keys;
+        QString toolTip;
+        QPointer<QWidget> home; // the widget that it was added to
+    };
+    struct ContextWidget {
+        QPointer<QWidget> widget;
+        QMetaObject::Connection death;
+    };
+
+    struct Holders {
+        int count = 0; ///< of those that Qt may have found
+        QAction *chosen = nullptr; ///< the nearest; null when none is in reach
+        bool isUnclear = false; ///< actions of several contexts are equally near
+    };
+
+    void followManager();
+    void follow(QAction *action);
+    Binding *find(const QAction *action);
+    Actions forget(const QAction *action);
+    void restore(QAction *action, const Binding &binding);
+
+    void update(const ActionIdentifier &identifier);
+    Actions actionsOf(const std::vector<ActionIdentifier> &identifiers) const;
+    void show(const Actions &actions);
+    void place(QAction *action, Binding &binding);
+    void apply(QAction *action, Binding &binding);
+    void noteChange(QAction *action);
+
+    QList<QKeySequence> keysInStore(const ActionIdentifier &identifier) const;
+    QWidget *widgetOf(const ActionIdentifier &identifier) const;
+    Holders holdersOf(const QList<QKeySequence> &keys) const;
+
+    QObject &m_owner;
+    QPointer<QvelShortcutManager> m_manager;
+    int m_loads = 0; // that have begun and not ended
+    std::unordered_map<const QAction *, Binding> m_bindings;
+    std::unordered_map<ActionIdentifier, std::vector<QAction *>> m_actions; // in binding order
+    HotkeyClaims m_claims;
+    std::unordered_map<unsigned long, ContextWidget> m_widgets;
+    std::set<const QAction *> m_changing; // whose shortcuts and tool tips are being set
+    std::optional<QKeyEvent> m_press; // the last one
+};
+
+} // namespace CUI

@@ -1,0 +1,70 @@
+#include "ActionReach.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenu>
+
+#include <algorithm>
+
+namespace CUI::ActionReach {
+
+namespace {
+
+/// The widgets that the action is in, and for a menu, those that the menu is in.
+QList<const QWidget *> placesOf(const QAction &action)
+{
+    QList<const QWidget *> places;
+    const QList<QWidget *> widgets = action.associatedWidgets();
+    for (const QWidget *widget : widgets) {
+        if (const auto *menu = qobject_cast<const QMenu *>(widget))
+            places += placesOf(*menu->menuAction());
+        else
+            places += widget;
+    }
+    return places;
+}
+
+int distanceFromFocus(const QWidget *widget)
+{
+    int steps = 0;
+    for (const QWidget *w = QApplication::focusWidget(); w != nullptr; w = w->parentWidget()) {
+        if (w == widget)
+            return steps;
+        if (w->isWindow() && w->windowType() != Qt::Popup)
+            break;
+        ++steps;
+    }
+    return outOfReach;
+}
+
+} // namespace
+
+int distance(const QAction &action, const QWidget *scope)
+{
+    if (scope == nullptr)
+        return isInActiveWindow(action) ? wholeWindow : outOfReach;
+    int nearest = distanceFromFocus(scope);
+    const QList<const QWidget *> places = placesOf(action);
+    for (const QWidget *place : places) {
+        if (!place->isAncestorOf(scope))
+            nearest = std::min(nearest, distanceFromFocus(place));
+    }
+    return nearest;
+}
+
+bool isInActiveWindow(const QAction &action)
+{
+    const QWidget *window = QApplication::activeWindow();
+    if (window == nullptr)
+        return false;
+    // While a floating dock is active, the keys of its window work on.
+    const QWidget *behind = window->windowType() == Qt::Tool && window->parentWidget() != nullptr
+                                    ? window->parentWidget()->window()
+                                    : window;
+    const QList<const QWidget *> places = placesOf(action);
+    return std::any_of(places.begin(), places.end(), [window, behind](const QWidget *place) {
+        return place->window() == window || place->window() == behind;
+    });
+}
+
+} // namespace CUI::ActionReach
