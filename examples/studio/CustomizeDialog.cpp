@@ -1,0 +1,100 @@
+#include "CustomizeDialog.h"
+
+#include "Icons.h"
+
+#include <UiCustomizations/IPathManager.h>
+#include <UiCustomizations/QvelActionItemModel.h>
+#include <UiCustomizations/QvelMenusWidget.h>
+#include <UiCustomizations/QvelMessageLog.h>
+#include <UiCustomizations/QvelMessageLogWidget.h>
+#include <UiCustomizations/QvelShortcutManager.h>
+#include <UiCustomizations/QvelShortcutsWidget.h>
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace Studio {
+
+CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager *manager, QWidget *parent)
+    : QDialog(parent),
+      m_manager(manager),
+      m_model(new CUI::QvelActionItemModel(manager, this)),
+      m_menuModel(new CUI::QvelActionItemModel(nullptr, this)),
+      m_editor(new CUI::QvelShortcutsWidget(m_model, manager)),
+      m_log(new CUI::QvelMessageLogWidget),
+      m_tabs(new QTabWidget)
+{
+    setObjectName(QStringLiteral("customizeDialog"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    resize(1040, 680);
+    m_tabs->addTab(m_editor, tr("&Hotkeys"));
+    // Sorting the list of actions sorts its model, which the hotkeys' rows would follow.
+    m_tabs->addTab(new CUI::QvelMenusWidget(m_menuModel), tr("&Menus"));
+    m_tabs->addTab(m_log, tr("&Log"));
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_tabs);
+    layout->addWidget(buttons);
+    m_editor->setPresetComboBoxItemIcon(Icons::make(QStringLiteral("lock")));
+    // The default red and green are made for light backgrounds.
+    if (palette().color(QPalette::Base).lightness() < 128) {
+        m_editor->setUserModifiedColor(QColor(0xff, 0x8a, 0x7a));
+        m_editor->setTransformShortcutsColor(QColor(0x86, 0xd0, 0x7a));
+    }
+    connect(&CUI::QvelMessageLog::getInstance(), &CUI::QvelMessageLog::messageLogged, m_log,
+            &CUI::QvelMessageLogWidget::append);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
+    // The name of the set changes with the list, which is told before the manager of paths is.
+    const auto later = [this] { QTimer::singleShot(0, this, &CustomizeDialog::showTitle); };
+    connect(m_editor, &CUI::QvelShortcutsWidget::presetModified, this, later);
+    connect(m_editor, &CUI::QvelShortcutsWidget::modificationsSaved, this, later);
+    connect(m_editor, &CUI::QvelShortcutsWidget::legacyHotkeySetConverted, this, later);
+    connect(manager, &CUI::QvelShortcutManager::shortcutConfigurationLoaded, this, later);
+    connect(manager, &CUI::QvelShortcutManager::shortcutTransformsCleared, this, later);
+    showTitle();
+}
+
+void CustomizeDialog::setLoggedText(const QString &lines)
+{
+    m_log->setPlainText(lines);
+}
+
+void CustomizeDialog::showTitle()
+{
+    const CUI::IPathManager *paths = CUI::IPathManager::get();
+    const QString path = paths != nullptr
+                                 ? paths->getCurrentConfigurationFile(CUI::ConfigType::HotkeySet)
+                                 : QString();
+    bool locked = false;
+    QString name = tr("No set");
+    if (!path.isEmpty())
+        CUI::QvelShortcutManager::peekPresetMetadata(path, locked, name);
+    // A window takes this mark in its title for the place of its own.
+    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    setWindowTitle(tr("Customize - %1[*]").arg(name));
+    setWindowModified(m_manager->isUserModified());
+}
+
+bool CustomizeDialog::askToClose()
+{
+    return m_editor->maybeSaveChanges();
+}
+
+void CustomizeDialog::reject()
+{
+    close();
+}
+
+void CustomizeDialog::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(askToClose());
+}
+
+} // namespace Studio

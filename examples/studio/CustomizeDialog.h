@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QDialog>
+
+class QTabWidget;
+
+namespace CUI {
+class QvelActionItemModel;
+class QvelMessageLogWidget;
+class QvelShortcutManager;
+class QvelShortcutsWidget;
+} // namespace CUI
+
+namespace Studio {
+
+/// The dialog with the library's views: hotkeys, actions and the log. It asks before it closes with
+/// unsaved edits.
+class CustomizeDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// @p manager is not owned and must outlive it.
+    explicit CustomizeDialog(CUI::QvelShortcutManager *manager, QWidget *parent = nullptr);
+
+    CUI::QvelShortcutsWidget *editor() const { return m_editor; }
+    QTabWidget *tabs() const { return m_tabs; }
+    CUI::QvelMessageLogWidget *log() const { return m_log; }
+    /// Fills the log with what was logged before the dialog was opened.
+    void setLoggedText(const QString &lines);
+
+    /// False, and the dialog stays open, when the user cancels.
+    bool askToClose();
+
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void showTitle();
+
+    CUI::QvelShortcutManager *m_manager;
+    CUI::QvelActionItemModel *m_model;
+    CUI::QvelActionItemModel *m_menuModel;
+    CUI::QvelShortcutsWidget *m_editor;
+    CUI::QvelMessageLogWidget *m_log;
+    QTabWidget *m_tabs;
+};
+
+} // namespace Studio

@@ -1,0 +1,174 @@
+#include "MainWindow.h"
+
+#include "Actions.h"
+#include "CommandFinder.h"
+#include "CustomizeDialog.h"
+#include "HostActionRegistry.h"
+#include "HotkeyActions.h"
+#include "Icons.h"
+#include "KeyRouter.h"
+#include "MenuBuilder.h"
+#include "SampleHost.h"
+#include "Timeline.h"
+#include "Viewport.h"
+
+#include <UiCustomizations/QvelMessageLogWidget.h>
+#include <UiCustomizations/QvelShortcutManager.h>
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QListWidget>
+#include <QStatusBar>
+#include <QToolBar>
+
+namespace Studio {
+
+MainWindow::MainWindow(Host::SampleHost &host, CUI::QvelShortcutManager &store, QWidget *parent)
+    : QMainWindow(parent),
+      m_host(host),
+      m_store(store),
+      m_document(new Document(this)),
+      m_view(new ViewState(this)),
+      m_hotkeyActions(new HotkeyActions(&store, this)),
+      m_router(new KeyRouter(&store, this))
+{
+    setWindowTitle(QStringLiteral("Studio"));
+    setWindowIcon(Icons::application());
+    setObjectName(QStringLiteral("studio"));
+    makeViews();
+    makeDocks();
+    makeToolBars();
+    makeAreas();
+    Actions::addEdit(m_table, *this);
+    Actions::addWindows(m_table, *this);
+    Actions::addViewport(m_table, *this);
+    Actions::addObject(m_table, *this);
+    Actions::addMesh(m_table, *this);
+    Actions::addBrushes(m_table, *this);
+    Actions::addUv(m_table, *this);
+    Actions::addNodes(m_table, *this);
+    Actions::addTimeline(m_table, *this);
+    Actions::addOutliner(m_table, *this);
+    Actions::addRendering(m_table, *this);
+    MenuBuilder::build(*this);
+    resize(1400, 900);
+    setWorkspace(0);
+    statusBar()->showMessage(tr("Ready"));
+    m_viewport->setFocus();
+    connect(host.registry(), &Host::HostActionRegistry::triggered, this,
+            [this](const CUI::ActionIdentifier &action) { perform(action); });
+    connect(m_router, &KeyRouter::activated, this,
+            [this](const CUI::ActionIdentifier &action, bool repeated) {
+                const CUI::VelAction *known = m_host.registry()->getAction(action);
+                if (known->momentary())
+                    hold(action, true);
+                else
+                    perform(action, repeated);
+            });
+    connect(m_router, &KeyRouter::deactivated, this,
+            [this](const CUI::ActionIdentifier &action) { hold(action, false); });
+}
+
+// The router answers the loss of focus that comes with the end of the widgets.
+MainWindow::~MainWindow()
+{
+    delete m_router;
+}
+
+// Actions
+
+QString MainWindow::nameOf(const CUI::ActionIdentifier &action) const
+{
+    const CUI::VelAction *known = m_host.registry()->getAction(action);
+    return known != nullptr ? known->name() : action.toString();
+}
+
+void MainWindow::perform(const CUI::ActionIdentifier &action, bool repeated)
+{
+    if (repeated && !m_table.repeats(action))
+        return;
+    statusBar()->showMessage(nameOf(action));
+    const bool isKnown = m_table.perform(action);
+    if (!isKnown)
+        statusBar()->showMessage(tr("%1 (not part of this example)").arg(nameOf(action)));
+    else if (action.actionId != QLatin1String("repeatLast"))
+        m_last = action;
+}
+
+void MainWindow::hold(const CUI::ActionIdentifier &action, bool held)
+{
+    const bool isKnown = m_table.hold(action, held);
+    const QString name = nameOf(action);
+    m_view->change([&](ViewSettings &view) {
+        if (held)
+            view.held = name;
+        else if (view.held == name)
+            view.held.clear();
+    });
+    if (held)
+        statusBar()->showMessage(isKnown ? tr("%1...").arg(name)
+                                         : tr("%1... (not part of this example)").arg(name));
+    else
+        statusBar()->showMessage(tr("%1: released").arg(name));
+}
+
+void MainWindow::performAgain()
+{
+    if (!m_last.isEmpty())
+        perform(CUI::ActionIdentifier(m_last));
+}
+
+// Modes
+
+QStringList MainWindow::modes() const
+{
+    QStringList names;
+    for (int i = 0; i < m_modeBox->count(); ++i)
+        names.append(m_modeBox->itemText(i));
+    return names;
+}
+
+void MainWindow::setMode(const QString &name)
+{
+    const int index = m_modeBox->findText(name);
+    if (index < 0)
+        return;
+    m_modeBox->setCurrentIndex(index);
+    m_view->change([&name](ViewSettings &view) { view.mode = name; });
+}
+
+// Dialogs
+
+CustomizeDialog *MainWindow::showCustomizeDialog()
+{
+    if (m_dialog == nullptr) {
+        m_dialog = new CustomizeDialog(&m_store, this);
+        m_dialog->setLoggedText(m_console->toPlainText());
+        connect(m_dialog, &QObject::destroyed, this, [this] { m_dialog = nullptr; });
+    }
+    m_dialog->show();
+    m_dialog->raise();
+    m_dialog->activateWindow();
+    return m_dialog;
+}
+
+void MainWindow::findCommand()
+{
+    auto *finder = new CommandFinder(*m_hotkeyActions, this);
+    connect(finder, &CommandFinder::chosen, this,
+            [this](const CUI::ActionIdentifier &action) { perform(action); });
+    finder->show();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (m_dialog != nullptr && !m_dialog->askToClose()) {
+        event->ignore();
+        return;
+    }
+    m_timeline->play(0);
+    event->accept();
+}
+
+} // namespace Studio

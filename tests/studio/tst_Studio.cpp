@@ -1,0 +1,340 @@
+#include "CustomizeDialog.h"
+#include "GraphView.h"
+#include "HotkeyActions.h"
+#include "KeyRouter.h"
+#include "MainWindow.h"
+#include "NodeView.h"
+#include "Outliner.h"
+#include "RenderView.h"
+#include "StudioRows.h"
+#include "StudioSession.h"
+#include "Timeline.h"
+#include "UvView.h"
+#include "Viewport.h"
+
+#include <UiCustomizations/ICuiActionManager.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QPainter>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using CUI::ActionIdentifier;
+using namespace Studio;
+
+namespace {
+
+QString s(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+/// What is to be seen, without the line that names the action, and what has the keyboard.
+QByteArray digest(MainWindow &window)
+{
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    QImage picture(window.size(), QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    window.render(&picture, QPoint(), QRegion(window.rect()) - window.statusBar()->geometry());
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    hash.addData(reinterpret_cast<const char *>(picture.constBits()),
+                 static_cast<int>(picture.sizeInBytes()));
+    QStringList others;
+    for (const QWidget *other : QApplication::topLevelWidgets()) {
+        if (other->isVisible() && other->isWindow())
+            others << other->objectName() + QString::number(static_cast<int>(other->windowState()));
+    }
+    others.sort();
+    others << (QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->objectName()
+                                                      : QString());
+    hash.addData(others.join(QLatin1Char(',')).toUtf8());
+    return hash.result();
+}
+
+} // namespace
+
+class StudioTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QApplication::setCursorFlashTime(0); }
+    void init() { start(Host::SampleHost::shippedDirectory()); }
+    void cleanup();
+
+    void everyActionDoesSomething_data();
+    void everyActionDoesSomething();
+    void performsManyActions();
+    void momentaryActionEndsWithItsKey();
+    void momentaryActionEndsWithTheFocus();
+    void sameKeyInTwoDocks();
+    void clickChoosesTheDock();
+    void modeComesBeforeViewport();
+    void keyThatRepeats();
+    void textKeepsItsKeys();
+    void unknownActionsTellTheirNames();
+    void menusFollowTheStore();
+    void otherHost();
+
+private:
+    void start(const QString &host);
+    MainWindow &window() const { return m_session->window(); }
+    QWidget *view(const char *name) const;
+    void press(QWidget *widget, const char *id);
+
+    std::unique_ptr<QTemporaryDir> m_user;
+    std::unique_ptr<StudioSession> m_session;
+};
+
+void StudioTest::start(const QString &host)
+{
+    m_session.reset();
+    m_user = std::make_unique<QTemporaryDir>();
+    m_session = std::make_unique<StudioSession>(host, m_user->path());
+    QVERIFY2(m_session->start(), qPrintable(m_session->errorText()));
+    window().resize(1000, 720); // less to draw
+    window().show();
+    QApplication::setActiveWindow(&window());
+    QVERIFY(QTest::qWaitForWindowActive(&window()));
+}
+
+void StudioTest::cleanup()
+{
+    m_session.reset();
+    m_user.reset();
+}
+
+/// The view of that object name, in front and with the keyboard focus.
+QWidget *StudioTest::view(const char *name) const
+{
+    auto *found = window().findChild<QWidget *>(s(name));
+    if (found == nullptr)
+        qFatal("there is no view %s", name);
+    for (QWidget *above = found; above != nullptr; above = above->parentWidget()) {
+        if (auto *dock = qobject_cast<QDockWidget *>(above)) {
+            dock->show();
+            dock->raise();
+        }
+    }
+    found->setFocus();
+    QCoreApplication::processEvents();
+    return found;
+}
+
+/// Presses the first hotkey that the store has for the action.
+void StudioTest::press(QWidget *widget, const char *id)
+{
+    const ActionIdentifier action = ActionIdentifier::fromString(s(id));
+    const auto hotkeys = m_session->store().getShortcuts().find(action);
+    if (hotkeys == m_session->store().getShortcuts().end())
+        qFatal("%s has no hotkey", id);
+    const int combination = QKeySequence(hotkeys->second.first())[0];
+    const int modifiers = combination & static_cast<int>(Qt::KeyboardModifierMask);
+    QTest::keyClick(widget, static_cast<Qt::Key>(combination & ~modifiers),
+                    Qt::KeyboardModifiers(modifiers));
+}
+
+void StudioTest::everyActionDoesSomething_data()
+{
+    QTest::addColumn<int>("row");
+    const std::vector<StudioRow> &rows = studioRows();
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        QTest::newRow(rows[i].id) << static_cast<int>(i);
+}
+
+void StudioTest::everyActionDoesSomething()
+{
+    QFETCH(int, row);
+    const StudioRow &tested = studioRows()[static_cast<std::size_t>(row)];
+    if (tested.prepare)
+        tested.prepare(window());
+    QWidget *widget = view(tested.view);
+    const QByteArray before = digest(window());
+    QCOMPARE(digest(window()), before); // what changes by itself would prove nothing
+    press(widget, tested.id);
+    QVERIFY(digest(window()) != before);
+    const ActionIdentifier action = ActionIdentifier::fromString(s(tested.id));
+    const CUI::VelAction *known = CUI::ICuiActionManager::get()->getAction(action);
+    QCOMPARE(window().statusBar()->currentMessage(), known->name());
+}
+
+void StudioTest::performsManyActions()
+{
+    QVERIFY(studioRows().size() >= 60);
+}
+
+void StudioTest::momentaryActionEndsWithItsKey()
+{
+    QWidget *viewport = view("viewport");
+    const QByteArray before = digest(window());
+    QTest::keyPress(viewport, Qt::Key_QuoteLeft); // hides the overlays while it is held
+    QVERIFY(window().view().get().heldHideOverlays);
+    QVERIFY(digest(window()) != before);
+    QKeyEvent repeatedRelease(QEvent::KeyRelease, Qt::Key_QuoteLeft, Qt::NoModifier, s("`"), true);
+    QCoreApplication::sendEvent(viewport, &repeatedRelease);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_QuoteLeft, Qt::NoModifier, s("`"), true);
+    QCoreApplication::sendEvent(viewport, &repeated);
+    QVERIFY(window().view().get().heldHideOverlays);
+    // Modifiers may have come meanwhile.
+    QTest::keyRelease(viewport, Qt::Key_QuoteLeft, Qt::ShiftModifier);
+    QVERIFY(!window().view().get().heldHideOverlays);
+    QCOMPARE(digest(window()), before);
+}
+
+void StudioTest::momentaryActionEndsWithTheFocus()
+{
+    QWidget *viewport = view("viewport");
+    QTest::keyPress(viewport, Qt::Key_Space);
+    QVERIFY(window().view().get().heldOrbit);
+    view("timeline");
+    QVERIFY(!window().view().get().heldOrbit);
+    QTest::keyRelease(viewport, Qt::Key_Space);
+    QCOMPARE(window().timeline().direction(), 0);
+
+    view("viewport");
+    QTest::keyPress(viewport, Qt::Key_Space);
+    QVERIFY(window().view().get().heldOrbit);
+    m_session->store().loadCurrentShortcutConfiguration();
+    QVERIFY(!window().view().get().heldOrbit);
+}
+
+void StudioTest::sameKeyInTwoDocks()
+{
+    const Scene &scene = window().document().scene();
+    const int objects = scene.objects.size();
+    const int nodes = scene.graph.nodes.size();
+    QTest::keyClick(view("viewport"), Qt::Key_A);
+    QCOMPARE(window().document().scene().objects.size(), objects + 1);
+    QCOMPARE(window().document().scene().graph.nodes.size(), nodes);
+    QTest::keyClick(view("nodeView"), Qt::Key_A);
+    QCOMPARE(window().document().scene().objects.size(), objects + 1);
+    QCOMPARE(window().document().scene().graph.nodes.size(), nodes + 1);
+    // What no context of the dock has comes from those that count everywhere.
+    QTest::keyClick(view("timeline"), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(window().document().scene().graph.nodes.size(), nodes);
+}
+
+void StudioTest::clickChoosesTheDock()
+{
+    QWidget *timeline = view("timeline");
+    QWidget *viewport = view("viewport");
+    QTest::mouseClick(timeline, Qt::LeftButton, Qt::NoModifier, QPoint(200, 60));
+    QCOMPARE(window().router().currentArea(), window().dock("timelineDock"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QCOMPARE(window().timeline().direction(), 1);
+    QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier, QPoint(20, 200));
+    QTest::keyPress(QApplication::focusWidget(), Qt::Key_Space);
+    QVERIFY(window().view().get().heldOrbit);
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Space);
+}
+
+void StudioTest::modeComesBeforeViewport()
+{
+    QWidget *viewport = view("viewport");
+    QTest::keyClick(viewport, Qt::Key_H);
+    QVERIFY(!window().document().scene().active()->visible);
+    window().document().undo();
+    QTest::keyClick(viewport, Qt::Key_Tab);
+    QCOMPARE(window().view().get().mode, s("Mesh"));
+    QCOMPARE(window().findChild<QComboBox *>(s("modeBox"))->currentText(), s("Mesh"));
+    QTest::keyClick(viewport, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(viewport, Qt::Key_H);
+    QVERIFY(window().document().scene().active()->visible);
+    QVERIFY(window().document().scene().active()->mesh.faces.first().hidden);
+    window().setMode(s("Sculpting")); // C is a brush there, and a loop cut in the mesh
+    QTest::keyClick(viewport, Qt::Key_C);
+    QCOMPARE(window().view().get().brush, s("Clay"));
+    QTest::keyClick(viewport, Qt::Key_F5); // the viewport's own
+    QCOMPARE(window().viewport().camera().pitch, 0.F);
+}
+
+void StudioTest::keyThatRepeats()
+{
+    QWidget *timeline = view("timeline");
+    QKeyEvent next(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), true);
+    const int frame = window().timeline().frame();
+    QCoreApplication::sendEvent(timeline, &next);
+    QCOMPARE(window().timeline().frame(), frame + 1);
+    QKeyEvent play(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, s(" "), true);
+    QCoreApplication::sendEvent(timeline, &play);
+    QCOMPARE(window().timeline().direction(), 0);
+}
+
+void StudioTest::textKeepsItsKeys()
+{
+    auto *filter = static_cast<QLineEdit *>(view("outlinerFilter"));
+    const int objects = window().document().scene().objects.size();
+    QTest::keyClicks(filter, s("chi."));
+    QCOMPARE(filter->text(), s("chi."));
+    QTest::keyClick(filter, Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(filter->text() != s("chi."));
+    QTest::keyClick(filter, Qt::Key_Delete);
+    QCOMPARE(window().document().scene().objects.size(), objects);
+    QCOMPARE(window().document().currentStep(), 0);
+    QTest::keyClick(filter, Qt::Key_N, Qt::ControlModifier); // no text needs that one
+    QCOMPARE(window().document().scene().objects.size(), 0);
+}
+
+void StudioTest::unknownActionsTellTheirNames()
+{
+    window().setMode(s("Sculpting"));
+    QWidget *viewport = view("viewport");
+    const QByteArray before = digest(window());
+    press(viewport, "7-remesh");
+    QVERIFY2(window().statusBar()->currentMessage().startsWith(s("Voxel Remesh (")),
+             qPrintable(window().statusBar()->currentMessage()));
+    QCOMPARE(digest(window()), before);
+    window().hotkeyActions().entry({1, s("saveScene")})->trigger();
+    QVERIFY(window().statusBar()->currentMessage().startsWith(s("Save Scene (")));
+    QTest::keyPress(viewport, Qt::Key_V); // held, and not known either
+    QVERIFY(window().statusBar()->currentMessage().startsWith(s("Smooth Brush While Held...")));
+    QTest::keyRelease(viewport, Qt::Key_V);
+}
+
+void StudioTest::menusFollowTheStore()
+{
+    CUI::QvelShortcutManager &store = m_session->store();
+    const ActionIdentifier undo = {1, s("undo")};
+    const ActionIdentifier find = {1, s("findCommand")};
+    const QAction *undoEntry = window().hotkeyActions().entry(undo);
+    const QAction *findEntry = window().hotkeyActions().entry(find);
+    QCOMPARE(undoEntry->text(), s("Undo\tCtrl+Z"));
+    QVERIFY(undoEntry->shortcut().isEmpty());
+    store.assignShortcut(find, s("Ctrl+Z"), s("Find Command"));
+    QCOMPARE(undoEntry->text(), s("Undo"));
+    QCOMPARE(findEntry->toolTip(), s("<span>Find Command (F3, Ctrl+Z)</span>"));
+    store.clearTransforms();
+    QVERIFY(undoEntry->text().startsWith(s("Undo\tCtrl+Z")));
+    QCOMPARE(findEntry->text(), s("Find Command\tF3"));
+    store.clearShortcuts();
+    QCOMPARE(undoEntry->text(), s("Undo"));
+}
+
+void StudioTest::otherHost()
+{
+    const QTemporaryDir host;
+    QFile file(host.filePath(s("host.json")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"({"defaultSet": "", "contexts": [{"id": 7, "name": "<i>Tiles</i>"}],
+                   "actions": [{"table": 3, "id": "fill", "name": "<b>Fill</b> & more",
+                                "context": 7, "category": "", "accelerators": ["F"]}]})");
+    file.close();
+    start(host.path());
+    QCOMPARE(window().modes(), QStringList(s("<i>Tiles</i>")));
+    QTest::keyClick(view("viewport"), Qt::Key_F);
+    QVERIFY(window().statusBar()->currentMessage().startsWith(s("<b>Fill</b> & more (")));
+    const QAction *entry = window().hotkeyActions().entry({3, s("fill")});
+    QCOMPARE(entry->text(), s("<b>Fill</b> && more\tF"));
+    QCOMPARE(entry->toolTip(), s("<span>&lt;b&gt;Fill&lt;/b&gt; &amp; more (F)</span>"));
+    CustomizeDialog *dialog = window().showCustomizeDialog();
+    QVERIFY(dialog->isVisible());
+    QVERIFY(dialog->close());
+}
+
+QTEST_MAIN(StudioTest)
+#include "tst_Studio.moc"
