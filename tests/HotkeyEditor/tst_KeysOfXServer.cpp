@@ -1,6 +1,9 @@
 #include "HotkeyRecorder.h"
+#include "QvelActionBinder.h"
+#include "QvelShortcutManager.h"
 
-#include <QGuiApplication>
+#include <QAction>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLoggingCategory>
@@ -98,6 +101,7 @@ private Q_SLOTS:
     void layouts();
     void keypad_data();
     void keypad();
+    void twoNamesOfOneKey();
 
 private:
     void run(const QString &program, const QStringList &arguments);
@@ -352,6 +356,43 @@ void TestKeysOfXServer::keypad()
     QTEST(locked, "locked");
 }
 
+/// Qt finds both names of a key, and calls it ambiguous.
+void TestKeysOfXServer::twoNamesOfOneKey()
+{
+    setLayout(QStringLiteral("us"));
+    QWidget window;
+    QAction plus(QStringLiteral("plus"));
+    QAction equal(QStringLiteral("equal"));
+    QStringList triggered;
+    for (QAction *action : {&plus, &equal}) {
+        window.addAction(action);
+        connect(action, &QAction::triggered, this,
+                [&triggered, action] { triggered << action->text(); });
+    }
+    QvelShortcutManager store;
+    QvelActionBinder binder(&store);
+    binder.bind({1, QStringLiteral("b")}, &plus);
+    binder.bind({1, QStringLiteral("a")}, &equal);
+    store.assignShortcut({1, QStringLiteral("b")}, QStringLiteral("Ctrl++"), QString());
+    store.assignShortcut({1, QStringLiteral("a")}, QStringLiteral("Ctrl+Shift+="), QString());
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+
+    const auto pressed = [&](int count) {
+        triggered.clear();
+        for (int i = 0; i < count; ++i)
+            run(QStringLiteral("xdotool"),
+                {QStringLiteral("key"), QStringLiteral("ctrl+shift+21")});
+        constexpr int patience = 20000;
+        [&] { QTRY_COMPARE_WITH_TIMEOUT(triggered.size(), count, patience); }();
+        return triggered.join(QLatin1Char(' '));
+    };
+    QCOMPARE(pressed(2), QStringLiteral("equal equal"));
+    equal.setEnabled(false);
+    QCOMPARE(pressed(1), QStringLiteral("plus"));
+}
+
 int main(int argc, char **argv)
 {
     std::unique_ptr<XServer> server;
@@ -363,7 +404,7 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "xcb");
         qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // there is no desktop to talk to
     }
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     TestKeysOfXServer test;
     return QTest::qExec(&test, argc, argv);
 }

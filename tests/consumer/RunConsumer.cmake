@@ -1,6 +1,8 @@
 # Installs the build to a folder of its own, runs the tool from there, then configures, builds and
-# runs the project in SOURCE_DIR against it. Expects BUILD_DIR, CONFIG, GENERATOR, COMPILER, COMPILER_FLAGS,
-# SOURCE_DIR and WORK_DIR; WORK_DIR is gone afterwards, unless a step fails.
+# runs the project in SOURCE_DIR against it; and once more without CMake, by pkg-config, after the
+# installation has been moved. Expects BUILD_DIR, CONFIG, GENERATOR, COMPILER, COMPILER_FLAGS,
+# LIBDIR, PKG_CONFIG (may be false), SOURCE_DIR and WORK_DIR; WORK_DIR is gone afterwards, unless a
+# step fails.
 
 function(step what)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE out ERROR_VARIABLE out)
@@ -27,5 +29,40 @@ step("Configuring the consumer"
     "-DCMAKE_CXX_FLAGS=${COMPILER_FLAGS}")
 step("Building the consumer" "${CMAKE_COMMAND}" --build "${build}" --config "${CONFIG}")
 step("Running the consumer" "${build}/consumer")
+
+# ask(VARIABLE ARGUMENT...): what pkg-config answers, as a list.
+function(ask variable)
+    execute_process(COMMAND "${CMAKE_COMMAND}" -E env
+        "PKG_CONFIG_PATH=${moved}/${LIBDIR}/pkgconfig:$ENV{PKG_CONFIG_PATH}" "${PKG_CONFIG}" ${ARGN}
+        RESULT_VARIABLE result OUTPUT_VARIABLE out ERROR_VARIABLE error
+        OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(NOT result EQUAL 0 OR out STREQUAL "")
+        message(FATAL_ERROR "pkg-config ${ARGN} failed (${result}), see ${WORK_DIR}:\n${error}")
+    endif()
+    separate_arguments(list UNIX_COMMAND "${out}")
+    set(${variable} "${list}" PARENT_SCOPE)
+endfunction()
+
+if(PKG_CONFIG)
+    set(moved "${WORK_DIR}/moved here")
+    set(plain "${WORK_DIR}/plain")
+    file(RENAME "${prefix}" "${moved}")
+    file(MAKE_DIRECTORY "${plain}")
+    ask(flags --cflags --libs UiCustomizations)
+    ask(schemas --variable=schemadir UiCustomizations)
+    ask(qt_programs --variable=host_bins Qt5Core)
+    separate_arguments(compiler_flags UNIX_COMMAND "${COMPILER_FLAGS}")
+    step("Making main.moc"
+        "${qt_programs}/moc" "${SOURCE_DIR}/main.cpp" -o "${plain}/main.moc")
+    step("Compiling by pkg-config"
+        "${COMPILER}" -std=c++17 ${compiler_flags} "-I${plain}" "${SOURCE_DIR}/main.cpp" ${flags}
+        -o "${plain}/consumer")
+    file(GLOB files "${schemas}/*.xsd")
+    file(COPY ${files} DESTINATION "${plain}")
+    step("Running what was compiled" "${CMAKE_COMMAND}" -E env
+        "LD_LIBRARY_PATH=${moved}/${LIBDIR}:$ENV{LD_LIBRARY_PATH}" "${plain}/consumer")
+else()
+    message(STATUS "There is no pkg-config: compiling without CMake is left out")
+endif()
 
 file(REMOVE_RECURSE "${WORK_DIR}")

@@ -8,20 +8,29 @@ class TestReadme : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsTheMinimalHost();
+    void showsCodeOfTheExamples();
 };
 
-void TestReadme::showsTheMinimalHost()
+void TestReadme::showsCodeOfTheExamples()
 {
     const QString source = QStringLiteral(CUI_SOURCE_DIR);
     const QByteArray readme = TestHost::read(source + QStringLiteral("/README.md"));
-    const QByteArray example =
-            TestHost::read(source + QStringLiteral("/examples/minimal/main.cpp"));
     const QByteArray fence("```cpp\n");
-    const int start = readme.indexOf(fence) + fence.size();
-    const QByteArray code = readme.mid(start, readme.indexOf("```", start) - start);
-    QVERIFY(code.startsWith("int main("));
-    QVERIFY2(example.endsWith(code), "README.md and examples/minimal/main.cpp differ");
+    int end = 0;
+    for (const QString &name : {QStringLiteral("binder"), QStringLiteral("minimal")}) {
+        const QByteArray example =
+                TestHost::read(source + QStringLiteral("/examples/%1/main.cpp").arg(name));
+        const int fenceStart = readme.indexOf(fence, end);
+        QVERIFY(fenceStart >= 0);
+        const int start = fenceStart + fence.size();
+        end = readme.indexOf("```", start);
+        const QByteArray code = readme.mid(start, end - start);
+        QVERIFY(code.startsWith("int main("));
+        QVERIFY2(example.endsWith(code),
+                 qPrintable(QStringLiteral("README.md and examples/%1 differ").arg(name)));
+        end += 3;
+    }
+    QCOMPARE(readme.indexOf(fence, end), -1);
 }
 
 QTEST_GUILESS_MAIN(TestReadme)
