@@ -3,6 +3,7 @@
 #ifdef CUI_HAS_SHORTCUTS_EDITOR
 
 #    include "Host.h"
+#    include "Rows.h"
 
 #    include <KActionCollection>
 #    include <KShortcutsEditor>
@@ -28,6 +29,13 @@ public:
                     std::make_unique<KActionCollection>(static_cast<QObject *>(nullptr)));
         for (int i = 0; i < actionCount; ++i)
             add(i);
+        m_openingSeconds = busySecondsOf([this] { open(); });
+    }
+
+    double openingSeconds() const { return m_openingSeconds; }
+
+    void open()
+    {
         m_editor = std::make_unique<KShortcutsEditor>(static_cast<QWidget *>(nullptr));
         for (int i = 0; i < contextCount; ++i)
             m_editor->addCollection(m_collections[static_cast<std::size_t>(i)].get(),
@@ -77,6 +85,7 @@ private:
     QLineEdit *m_line;
     QTreeWidget *m_tree;
     std::unique_ptr<PaintWatch> m_watch;
+    double m_openingSeconds = 0.0;
 };
 
 } // namespace
@@ -89,6 +98,11 @@ bool hasShortcutsEditor()
 std::unique_ptr<Searcher> makeShortcutsEditor(int actionCount)
 {
     return std::make_unique<ShortcutsEditor>(actionCount);
+}
+
+double secondsToOpenShortcutsEditor(int actionCount)
+{
+    return ShortcutsEditor(actionCount).openingSeconds();
 }
 
 } // namespace CUI::Bench
@@ -105,6 +119,11 @@ bool hasShortcutsEditor()
 std::unique_ptr<Searcher> makeShortcutsEditor(int)
 {
     return nullptr;
+}
+
+double secondsToOpenShortcutsEditor(int)
+{
+    return 0.0;
 }
 
 } // namespace CUI::Bench

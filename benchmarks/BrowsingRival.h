@@ -14,4 +14,8 @@ bool hasShortcutsEditor();
 /// searches a typed text is left out.
 std::unique_ptr<Searcher> makeShortcutsEditor(int actionCount);
 
+/// How long that editor takes, with its actions there, from its constructor to the first painting;
+/// 0 without it.
+double secondsToOpenShortcutsEditor(int actionCount);
+
 } // namespace CUI::Bench

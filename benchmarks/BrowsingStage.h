@@ -125,4 +125,7 @@ public:
     int listedCount() const override { return rowCount(); }
 };
 
+/// Types one text after the other, each until it is painted.
+double secondsOfSequence(Searcher &searcher);
+
 } // namespace CUI::Bench

@@ -31,14 +31,6 @@ QString textOf(const Typed &typed)
     return QString::fromLatin1(typed.text);
 }
 
-double secondsOfSequence(Searcher &searcher)
-{
-    return busySecondsOf([&searcher] {
-        for (const Typed &typed : sequence)
-            searcher.type(textOf(typed));
-    });
-}
-
 /// What is wrong with the outcome of a search by name, which lists what holds every word, the names
 /// that start with the text first.
 QString faultOfNames(Stage &stage, const SearchScreen &screen, const QString &search)
@@ -192,6 +184,14 @@ void compareSizesOfHotkeySearch(benchmark::State &state, Stages &stages)
 }
 
 } // namespace
+
+double secondsOfSequence(Searcher &searcher)
+{
+    return busySecondsOf([&searcher] {
+        for (const Typed &typed : sequence)
+            searcher.type(textOf(typed));
+    });
+}
 
 void addTypingRows(Stages &stages)
 {

@@ -13,6 +13,7 @@
 namespace CUI::Bench {
 
 class Stages;
+class Stages;
 class Workload;
 
 /// The rows of the table, each file its own. They keep a reference to the argument.
@@ -22,6 +23,7 @@ void addStoreRows(Workload &workload);
 void addEditRows(Workload &workload);
 void addCollapseRows();
 void addPresetRows(Workload &workload);
+void addEditorRows(Workload &workload, Stages &stages);
 void addTypingRows(Stages &stages);
 void addTableRows(Stages &stages);
 

@@ -25,6 +25,7 @@ int main(int argc, char **argv)
     Stages stages(workload);
     addTypingRows(stages);
     addTableRows(stages);
+    addEditorRows(workload, stages);
 
     Table table;
     const std::size_t rows = benchmark::RunSpecifiedBenchmarks(&table);
