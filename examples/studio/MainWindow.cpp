@@ -2,7 +2,6 @@
 
 #include "Actions.h"
 #include "CommandFinder.h"
-#include "CustomizeDialog.h"
 #include "HostActionRegistry.h"
 #include "HotkeyActions.h"
 #include "Icons.h"
@@ -145,7 +144,6 @@ CustomizeDialog *MainWindow::showCustomizeDialog()
     if (m_dialog == nullptr) {
         m_dialog = new CustomizeDialog(&m_store, this);
         m_dialog->setLoggedText(m_console->toPlainText());
-        connect(m_dialog, &QObject::destroyed, this, [this] { m_dialog = nullptr; });
     }
     m_dialog->show();
     m_dialog->raise();

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "ActionTable.h"
+#include "CustomizeDialog.h"
 #include "Document.h"
 #include "ViewState.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <vector>
 
@@ -23,7 +25,6 @@ class QvelShortcutManager;
 
 namespace Studio {
 
-class CustomizeDialog;
 class GraphView;
 class HotkeyActions;
 class KeyRouter;
@@ -124,7 +125,7 @@ private:
     QListWidget *m_history = nullptr;
     QComboBox *m_modeBox = nullptr;
     QWidget *m_viewportFrame = nullptr;
-    CustomizeDialog *m_dialog = nullptr;
+    QPointer<CustomizeDialog> m_dialog;
     QByteArray m_stateBeforeHiding;
     CUI::ActionIdentifier m_last;
     int m_workspace = 0;

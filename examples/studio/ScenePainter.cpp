@@ -12,7 +12,6 @@ namespace Studio {
 
 namespace {
 
-constexpr int fineness = 2;
 const QColor selectionColor(0xff, 0x9c, 0x3a);
 const QColor axisColors[] = {QColor(0xe0, 0x55, 0x55), QColor(0x78, 0xb8, 0x4a),
                              QColor(0x4f, 0x8d, 0xe0)};
@@ -36,7 +35,7 @@ ScenePainter::ScenePainter(const Scene &scene, const ViewSettings &settings, con
       m_settings(settings),
       m_camera(camera),
       m_size(size),
-      m_rasterizer(size, fineness),
+      m_rasterizer(size, settings.fineness),
       m_light(QVector3D(0.45F, -0.55F, 0.75F).normalized())
 {
     const float aspect =

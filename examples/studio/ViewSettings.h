@@ -19,6 +19,7 @@ struct ViewSettings {
     Shading shading = Shading::Solid;
     Tool tool = Tool::Select;
     Components components = Components::Faces;
+    int fineness = 2; ///< how much finer than the screen is drawn, for smooth edges
     bool xRay = false;
     bool grid = true;
     bool overlays = true;

@@ -99,6 +99,7 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(Host::SampleHost::applicationName());
+    QGuiApplication::setDesktopFileName(QStringLiteral("studio"));
     const Options options = readOptions();
     const bool isScripted = !options.tour.isEmpty() || !options.screenshots.isEmpty();
     // A dialog of the desktop can neither be driven nor pictured.

@@ -57,6 +57,7 @@ namespace std {
 /// throws, but is not declared so: the standard library of GCC then keeps the hash of each key.
 template <>
 struct CUI_EXPORT hash<CUI::ActionIdentifier> {
+    /// The hash of @p identifier.
     size_t operator()(const CUI::ActionIdentifier &identifier) const;
 };
 

@@ -31,9 +31,12 @@ class CUI_EXPORT ICuiActionManager : public QObject
     Q_OBJECT
 
 public:
+    /// Actions by their identifiers.
     using ActionMap = std::unordered_map<ActionIdentifier, std::unique_ptr<VelAction>>;
+    /// Contexts by their ids.
     using ContextMap = std::unordered_map<unsigned long, std::unique_ptr<VelActionContext>>;
 
+    /// A registry without actions and contexts.
     explicit ICuiActionManager(QObject *parent = nullptr);
     ~ICuiActionManager() override;
 

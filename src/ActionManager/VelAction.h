@@ -10,6 +10,7 @@ namespace CUI {
 class VelAction
 {
 public:
+    /// The arguments are what the functions of their names answer.
     VelAction(const ActionIdentifier &identifier, const QString &name, unsigned long contextId,
               const QString &category, bool momentary)
         : m_identifier(identifier),

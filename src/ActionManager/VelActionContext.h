@@ -8,6 +8,7 @@ namespace CUI {
 class VelActionContext
 {
 public:
+    /// The arguments are what the functions of their names answer.
     VelActionContext(unsigned long id, const QString &name) : m_id(id), m_name(name) { }
 
     /// The context's number, 0 to 4294967295; equal to the key it is registered under.

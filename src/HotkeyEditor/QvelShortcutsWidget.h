@@ -49,7 +49,9 @@ public:
     void setTransformShortcutsColor(const QColor &color);
     /// The mark of sets that cannot be written.
     void setPresetComboBoxItemIcon(const QIcon &icon);
+    /// The icon of the button that opens the menu of commands for sets.
     void setToolButtonPresetOptionsIcon(const QIcon &icon);
+    /// The icon of the button that saves the set.
     void setToolButtonSavePresetIcon(const QIcon &icon);
     /// @}
 
@@ -60,6 +62,7 @@ public:
     void setCurrentContext(unsigned long contextId);
     /// Chooses an entry of the hotkey filter: a QvelSortFilterProxyModel::HotkeyFilter.
     void setHotkeyFilter(int index);
+    /// Sorts the list by that column, in ascending order.
     void sortActionTreeByColumn(QvelActionItemModel::ActionTreeColumns column);
     /// Reads the actions of the registry anew. Column widths and the selected action stay.
     void reloadActionsList();
@@ -73,6 +76,7 @@ public:
     void setCurrentAction(const ActionIdentifier &id, bool focus);
     /// The selected action, or null. Valid until the registry changes.
     VelAction *currentAction() const;
+    /// Leaves no action selected.
     void clearSelection();
     /// Forgets the hotkey that is being typed, and reads the assigned ones anew.
     void resetSelectedActionFields();
@@ -120,8 +124,10 @@ public Q_SLOTS:
     void applyCurrentTransformation();
     /// @}
 
+    /// Shows the current set as modified. Emits presetModified() if it was not.
     void markModified();
-    /// With @p invalidate the colours of all rows are drawn anew.
+    /// Shows the current set as unmodified. Emits presetModified() if it was not. With
+    /// @p invalidate the colours of all rows are drawn anew.
     void unmarkModified(bool invalidate);
 
 Q_SIGNALS:
@@ -134,7 +140,9 @@ Q_SIGNALS:
     void legacyHotkeySetConverted(bool success);
 
 protected:
+    /// Takes the keys that are typed into the fields of the search and of the new hotkey.
     bool eventFilter(QObject *watched, QEvent *event) override;
+    /// Takes over the texts of another language.
     void changeEvent(QEvent *event) override;
 
 private:

@@ -41,9 +41,11 @@ class QvelShortcutManager;
 /// is shown; without one of its own, the tool tip follows the action's text, as it does in Qt.
 ///
 /// Within one context a key never is ambiguous between bound actions. Where the store has two texts
-/// for one key (Ctrl+Shift+Z, Shift+Ctrl+Z), the action with the smallest identifier gets it, and
-/// where several QActions are bound to one identifier, the first of them that is enabled and within
-/// reach is triggered. Where actions of several contexts are within reach, the one whose context's
+/// for one key (Ctrl+Shift+Z, Shift+Ctrl+Z, or on a keyboard of the USA, Ctrl+Shift+= and Ctrl++),
+/// the action with the smallest identifier gets it, and where several QActions are bound to one
+/// identifier, the first of them that is enabled and within reach is triggered. Enter stands for
+/// Return as well, which the hotkey editor records by that name, unless another action has Return.
+/// Where actions of several contexts are within reach, the one whose context's
 /// widget is nearest to the keyboard focus is triggered, and one of a context without widget last.
 /// Two contexts that are equally near, and shortcuts that are not bound, are ambiguous as they are
 /// in Qt.

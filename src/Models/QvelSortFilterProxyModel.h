@@ -98,6 +98,7 @@ Q_SIGNALS:
     void filterInvalidated();
 
 protected:
+    /// True when the action of the row passes the search and both filters.
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
     /// The order of two source indexes. Equal texts are decided by the texts of other columns;

@@ -14,7 +14,11 @@ namespace CUI {
 class CUI_EXPORT ShortcutTransformation
 {
 public:
-    enum Kind : std::int32_t { Assign = 0, Unassign = 1 };
+    /// What was done with the hotkey.
+    enum Kind : std::int32_t {
+        Assign = 0, ///< it was given to the action
+        Unassign = 1, ///< it was taken from the action
+    };
 
     /// An assignment of nothing to no action; there so that the class can travel in a QVariant.
     ShortcutTransformation() = default;
@@ -25,10 +29,13 @@ public:
     {
     }
 
+    /// What was done.
     Kind kind() const { return m_kind; }
+    /// The action that it was done to.
     ActionIdentifier actionId() const { return m_actionId; }
     /// One hotkey in portable text form.
     QString shortcut() const { return m_shortcut; }
+    /// The action's display text at the time; may be empty.
     QString description() const { return m_description; }
 
     /// The step in words, the four words of it translated: Add 'Ctrl+E' to Export.

@@ -39,7 +39,7 @@ function(ask variable)
     if(NOT result EQUAL 0 OR out STREQUAL "")
         message(FATAL_ERROR "pkg-config ${ARGN} failed (${result}), see ${WORK_DIR}:\n${error}")
     endif()
-    separate_arguments(list UNIX_COMMAND "${out}")
+    separate_arguments(list UNIX_COMMAND "${out}") # blanks in paths come escaped
     set(${variable} "${list}" PARENT_SCOPE)
 endfunction()
 
@@ -58,6 +58,9 @@ if(PKG_CONFIG)
         "${COMPILER}" -std=c++17 ${compiler_flags} "-I${plain}" "${SOURCE_DIR}/main.cpp" ${flags}
         -o "${plain}/consumer")
     file(GLOB files "${schemas}/*.xsd")
+    if(NOT files)
+        message(FATAL_ERROR "There are no schemas in ${schemas}, see ${WORK_DIR}")
+    endif()
     file(COPY ${files} DESTINATION "${plain}")
     step("Running what was compiled" "${CMAKE_COMMAND}" -E env
         "LD_LIBRARY_PATH=${moved}/${LIBDIR}:$ENV{LD_LIBRARY_PATH}" "${plain}/consumer")

@@ -97,7 +97,8 @@ void StudioTest::start(const QString &host)
     m_user = std::make_unique<QTemporaryDir>();
     m_session = std::make_unique<StudioSession>(host, m_user->path());
     QVERIFY2(m_session->start(), qPrintable(m_session->errorText()));
-    window().resize(1000, 720); // less to draw
+    window().resize(900, 640); // less to draw
+    window().view().change([](ViewSettings &view) { view.fineness = 1; });
     window().show();
     QApplication::setActiveWindow(&window());
     QVERIFY(QTest::qWaitForWindowActive(&window()));
