@@ -21,13 +21,13 @@ public:
         setCentralWidget(&m_text);
         QMenu *edit = menuBar()->addMenu(QStringLiteral("&Edit"));
         QAction *clear = edit->addAction(QStringLiteral("&Clear"));
-        clear->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_L));
+        clear->setShortcut(QKeySequence(QStringLiteral("Ctrl+L")));
         connect(clear, &QAction::triggered, &m_text, &QPlainTextEdit::clear);
         QAction *underline = edit->addAction(QStringLiteral("&Underline"));
         connect(underline, &QAction::triggered, this,
                 [this] { m_text.appendPlainText(QStringLiteral("--------")); });
         hotkeys = edit->addAction(QStringLiteral("&Hotkeys..."));
-        hotkeys->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_K));
+        hotkeys->setShortcut(QKeySequence(QStringLiteral("Ctrl+K")));
     }
 
     QAction *hotkeys;

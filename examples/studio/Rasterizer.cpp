@@ -44,7 +44,7 @@ uint channel(float value, uint below, float alpha)
 {
     const float mixed =
             std::clamp(value, 0.F, 1.F) * 255 * alpha + static_cast<float>(below) * (1 - alpha);
-    return static_cast<uint>(mixed + 0.5F);
+    return static_cast<uint>(qRound(mixed));
 }
 
 QRgb blend(const QVector3D &color, QRgb below, float alpha)
