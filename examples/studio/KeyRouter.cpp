@@ -47,10 +47,10 @@ KeyRouter::KeyRouter(CUI::QvelShortcutManager *manager, QWidget *window)
 
 KeyRouter::~KeyRouter() = default;
 
-void KeyRouter::addArea(QWidget *area, std::function<Contexts()> contexts)
+void KeyRouter::addArea(QWidget *area, const std::function<Contexts()> &contexts)
 {
     m_areas.push_back(area);
-    m_contexts.insert(area, std::move(contexts));
+    m_contexts.insert(area, contexts);
 }
 
 QWidget *KeyRouter::currentArea() const

@@ -36,7 +36,7 @@ public:
     ~KeyRouter() override;
 
     /// @p contexts is asked anew for each key.
-    void addArea(QWidget *area, std::function<Contexts()> contexts);
+    void addArea(QWidget *area, const std::function<Contexts()> &contexts);
     /// The area that has or last had the focus; the first one before that.
     QWidget *currentArea() const;
     /// Who holds the key in that area, and the empty identifier when nobody does.

@@ -69,7 +69,7 @@ QStringList candidates(const QKeyEvent &event)
     for (int modifiers : {pressed, pressed & ~int{Qt::KeypadModifier}}) {
         for (int key : namesOf(event.key()))
             add(key | modifiers);
-        if ((modifiers & Qt::ShiftModifier) == 0 || (modifiers & Qt::KeypadModifier) != 0)
+        if ((modifiers & int{Qt::ShiftModifier}) == 0 || (modifiers & int{Qt::KeypadModifier}) != 0)
             continue;
         const int plain = withoutShift(event.key());
         if (plain != event.key()) {

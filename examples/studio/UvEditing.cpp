@@ -80,7 +80,9 @@ void unwrapAngleBased(Mesh &mesh)
         for (int corner = 0; corner < face.corners.size(); ++corner) {
             int chart = 0;
             const QPointF place = onChart(normal, mesh.vertices.at(face.corners.at(corner)), chart);
-            const QPointF cell((chart % 3) * third, (chart / 3) * 0.5);
+            const int column = chart % 3;
+            const int row = chart / 3;
+            const QPointF cell(column * third, row * 0.5);
             const double across = (std::clamp(place.x(), -1.3, 1.3) / 2.6 + 0.5) * (third - margin);
             const double up = (std::clamp(place.y(), -1.3, 1.3) / 2.6 + 0.5) * (0.5 - margin);
             face.uv[corner] = cell + QPointF(across + margin / 2, up + margin / 2);
@@ -95,7 +97,8 @@ void unwrapFaceByFace(Mesh &mesh)
     const double size = 1.0 / columns;
     int cell = 0;
     forEachFace(mesh, [&](QVector<QPointF> &uv) {
-        const QPointF centre((cell % columns + 0.5) * size, (cell / columns + 0.5) * size);
+        const int row = cell / columns;
+        const QPointF centre((cell % columns + 0.5) * size, (row + 0.5) * size);
         for (int i = 0; i < uv.size(); ++i) {
             const double angle = 2 * M_PI * (i + 0.5) / uv.size();
             uv[i] = centre + QPointF(std::cos(angle), std::sin(angle)) * size * 0.45;
