@@ -14,6 +14,8 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
+#include <utility>
+
 const CUI::ActionIdentifier box{1, QStringLiteral("box")};
 const CUI::ActionIdentifier boxes{1, QStringLiteral("boxes")};
 const CUI::ActionIdentifier sphere{1, QStringLiteral("sphere")};
@@ -75,12 +77,18 @@ void EditorHarness::open()
     model = std::make_unique<CUI::QvelActionItemModel>(&manager);
     editor = std::make_unique<CUI::QvelShortcutsWidget>(model.get(), &manager);
     editor->show();
+    QObject::connect(child<QLineEdit>("HotkeyEditor_searchLineEdit"), &QLineEdit::textChanged,
+                     editor.get(), [this] { m_hasSearched = true; });
     QApplication::setActiveWindow(editor.get());
     QVERIFY(QTest::qWaitForWindowActive(editor.get()));
 }
 
 void EditorHarness::close()
 {
+    // The fading clear button of a line edit is animated by an object that only its end deletes.
+    constexpr int fadingTime = 250;
+    if (std::exchange(m_hasSearched, false))
+        QTest::qWait(fadingTime);
     editor.reset();
     model.reset();
 }

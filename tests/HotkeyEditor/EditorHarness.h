@@ -60,6 +60,9 @@ public:
     QString shippedSet;
     QString userSet;
     QString otherSet;
+
+private:
+    bool m_hasSearched = false;
 };
 
 extern const CUI::ActionIdentifier box;
