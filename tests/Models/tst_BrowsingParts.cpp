@@ -107,14 +107,14 @@ void TestBrowsingParts::simpleCharactersFoldAlike()
             simple += QChar(c);
     }
     QVERIFY(simple.size() > 350);
-    for (const QChar c : simple) {
-        const QString pattern = QRegularExpression::escape(c);
-        auto matches = expression(pattern).globalMatch(simple);
+    for (const QChar c : qAsConst(simple)) {
+        const QRegularExpression sought = expression(QRegularExpression::escape(QString(c)));
+        auto matches = sought.globalMatch(simple);
         QString alike;
         while (matches.hasNext())
             alike += matches.next().captured();
         QString folding;
-        for (const QChar other : simple) {
+        for (const QChar other : qAsConst(simple)) {
             if (FoldedText(other).text == FoldedText(c).text)
                 folding += other;
         }
