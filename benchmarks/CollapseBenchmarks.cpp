@@ -155,7 +155,7 @@ void compareSizes(benchmark::State &state)
 
 void addCollapseRows()
 {
-    addRow("collapse/100k steps", "10k steps", 30, compareSizes);
+    addRow("collapse/100k steps", "10k steps", 100, compareSizes);
 }
 
 } // namespace CUI::Bench

@@ -174,7 +174,7 @@ void addLoadRows(Workload &workload)
 {
     addRow("load/10k", "a bare check and reading of the two files", 15,
            [&](benchmark::State &state) { compareLoadWithBareReading(state, workload); });
-    addRow("load/100k", "loading 10k", 5,
+    addRow("load/100k", "loading 10k", 8,
            [&](benchmark::State &state) { compareLoadSizes(state, workload); });
     addRow("load/10k, default log level", "a silent log", 15,
            [&](benchmark::State &state) { compareLogLevels(state, workload); });

@@ -11,6 +11,7 @@
 #include <QXmlSchema>
 #include <QXmlSchemaValidator>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <optional>
@@ -116,7 +117,7 @@ std::optional<QByteArray> contentsOf(const QString &path)
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return {};
-    return file.read(XmlScreening::maximumSize + 1);
+    return file.read(std::min<qint64>(file.size(), XmlScreening::maximumSize) + 1);
 }
 
 } // namespace

@@ -112,7 +112,7 @@ bool QvelShortcutManager::isUserModifiedShortcut(const ActionIdentifier &identif
 {
     clampUserModTransformIndex();
     if (collapser->hasSettled(transformations, userModTransformIndex))
-        return collapser->touches(identifier, shortcut);
+        return collapser->touches(transformations, identifier, shortcut);
     const auto &steps = currentTransformations();
     return std::any_of(steps.begin() + static_cast<std::ptrdiff_t>(userModTransformIndex),
                        steps.end(), [&](const ShortcutTransformation &step) {

@@ -32,11 +32,11 @@ public:
     /// What was done.
     Kind kind() const { return m_kind; }
     /// The action that it was done to.
-    ActionIdentifier actionId() const { return m_actionId; }
+    const ActionIdentifier &actionId() const { return m_actionId; }
     /// One hotkey in portable text form.
-    QString shortcut() const { return m_shortcut; }
+    const QString &shortcut() const { return m_shortcut; }
     /// The action's display text at the time; may be empty.
-    QString description() const { return m_description; }
+    const QString &description() const { return m_description; }
 
     /// The step in words, the four words of it translated: Add 'Ctrl+E' to Export.
     QString toString() const;

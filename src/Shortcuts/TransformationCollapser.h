@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ActionIdentifier.h"
+#include "OpenSteps.h"
 #include "ShortcutTransformation.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <unordered_map>
 #include <vector>
 
@@ -46,28 +46,23 @@ public:
     /// below speak of them.
     bool hasSettled(const Steps &steps, std::size_t start) const;
     bool touches(const ActionIdentifier &actionId) const;
-    bool touches(const ActionIdentifier &actionId, const QString &shortcut) const;
+    bool touches(const Steps &steps, const ActionIdentifier &actionId,
+                 const QString &shortcut) const;
 
 private:
-    struct StepKey {
-        ActionIdentifier actionId;
-        QString shortcut;
-        bool operator==(const StepKey &other) const;
-    };
-    // Not noexcept, so that the map keeps the hashes; see CaseFoldedTextHash.
-    struct StepKeyHash {
-        std::size_t operator()(const StepKey &key) const;
-    };
+    /// What a step did to the open step of its action and hotkey.
+    enum class Effect { Opened, Repeated, Closed };
 
-    void settleStep(const Steps &steps, std::size_t position);
+    Effect settleStep(const Steps &steps, std::size_t position);
+    void countOpenStep(const ActionIdentifier &actionId, Effect effect);
     void cancel(std::size_t position);
     void dropCancelledEnd(Steps &steps);
-    void forgetOpenStep(const StepKey &key);
+    void removeCancelled(Steps &steps) const;
 
     std::size_t m_start = 0;
     std::vector<bool> m_cancelled; // one for each settled step, from m_start on
     std::size_t m_cancelledCount = 0;
-    std::unordered_map<StepKey, std::size_t, StepKeyHash> m_openSteps; // to its position
+    OpenSteps m_openSteps;
     std::unordered_map<ActionIdentifier, int> m_openStepsOfAction;
 };
 

@@ -180,8 +180,8 @@ void TestTransformationCollapser::queriesFollowTheOpenSteps()
     const ActionIdentifier b{1, QStringLiteral("b")};
     QVERIFY(!collapser.touches(a)); // before the start
     QVERIFY(collapser.touches(b));
-    QVERIFY(!collapser.touches(b, QStringLiteral("Y")));
-    QVERIFY(collapser.touches(b, QStringLiteral("Z")));
+    QVERIFY(!collapser.touches(list, b, QStringLiteral("Y")));
+    QVERIFY(collapser.touches(list, b, QStringLiteral("Z")));
     list.push_back(step(QStringLiteral("-Z b"), 5));
     QVERIFY(!collapser.hasSettled(list, 1));
     collapser.settle(list, 1);

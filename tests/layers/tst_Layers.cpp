@@ -29,6 +29,7 @@ const struct {
         {"src/Shortcuts/KeyNames.*", Values},
         {"src/Shortcuts/QShortcutsList.*", Values},
         {"src/Shortcuts/ShortcutTransformation.*", Values},
+        {"src/Shortcuts/OpenSteps.*", Values},
         {"src/Shortcuts/TransformationCollapser.*", Values},
 
         {"src/ActionManager/ICuiActionManager.*", Services},
