@@ -16,9 +16,25 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
+#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace Studio {
+
+namespace {
+
+QWidget *makeMenusView(CUI::QvelActionItemModel *model)
+{
+    auto *view = new CUI::QvelMenusWidget(model);
+    // The widget leaves the columns' widths and their first order to the host.
+    auto *tree = view->findChild<QTreeView *>(QStringLiteral("menuActionsTreeView"));
+    tree->sortByColumn(CUI::QvelActionItemModel::ActionColumn, Qt::AscendingOrder);
+    tree->setColumnWidth(CUI::QvelActionItemModel::ActionColumn, 380);
+    tree->setColumnWidth(CUI::QvelActionItemModel::GroupColumn, 240);
+    return view;
+}
+
+} // namespace
 
 CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager *manager, QWidget *parent)
     : QDialog(parent),
@@ -35,7 +51,7 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager *manager, QWidget *par
     resize(1040, 680);
     m_tabs->addTab(m_editor, tr("&Hotkeys"));
     // Sorting the list of actions sorts its model, which the hotkeys' rows would follow.
-    m_tabs->addTab(new CUI::QvelMenusWidget(m_menuModel), tr("&Menus"));
+    m_tabs->addTab(makeMenusView(m_menuModel), tr("&Menus"));
     m_tabs->addTab(m_log, tr("&Log"));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);

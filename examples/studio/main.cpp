@@ -12,7 +12,10 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTextStream>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -65,6 +68,15 @@ int fail(const QString &reason)
     return 1;
 }
 
+/// The texts of the toolkit's own dialogs and buttons, where they are installed.
+void installToolkitTranslations(const QLocale &locale)
+{
+    static QTranslator translator;
+    if (translator.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
+                        QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&translator);
+}
+
 int runTour(const Options &options)
 {
     if (options.legacyFile.isEmpty())
@@ -107,8 +119,9 @@ int main(int argc, char **argv)
     Host::installTranslations();
     const QString locale =
             options.locale.isEmpty() && isScripted ? QStringLiteral("en") : options.locale;
-    if (!locale.isEmpty())
-        VelSDK::QvelTranslationLoader::setLocale(locale);
+    // Buttons in a language that nothing else is in would only confuse.
+    if (VelSDK::QvelTranslationLoader::setLocale(locale))
+        installToolkitTranslations(locale.isEmpty() ? QLocale::system() : QLocale(locale));
     Studio::Appearance::apply(options.dark);
     if (!options.screenshots.isEmpty()) {
         QString error;
