@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -16,6 +17,14 @@ namespace {
 bool isClearKey(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_D && event.modifiers().testFlag(Qt::ControlModifier);
+}
+
+/// The line without what QTextCursor::insertText() would begin a new paragraph or frame at.
+QString asOneParagraph(QString line)
+{
+    static const QRegularExpression breaks(
+            QStringLiteral("\\r\\n|[\\r\\n\\x{2029}\\x{fdd0}\\x{fdd1}]"));
+    return line.replace(breaks, QString(QChar(QChar::LineSeparator)));
 }
 
 } // namespace
@@ -48,7 +57,7 @@ void QvelMessageLogWidget::append(const QString &line)
     end.beginEditBlock();
     if (!document()->isEmpty())
         end.insertBlock();
-    end.insertText(QString(line).replace(QLatin1Char('\n'), QChar(QChar::LineSeparator)));
+    end.insertText(asOneParagraph(line));
     end.endEditBlock();
 
     if (wasAtEnd)

@@ -27,9 +27,9 @@ public:
     bool event(QEvent *event) override;
 
 public Q_SLOTS:
-    /// Adds @p line as one paragraph of plain text. Takes the place of QTextEdit::append(), which
-    /// would read markup in lines that quote a file. A view that is scrolled to its end stays
-    /// there. Emits textChanged() once.
+    /// Adds @p line as one paragraph of plain text; line breaks in it do not end it. Takes the
+    /// place of QTextEdit::append(), which would read markup in lines that quote a file. A view
+    /// that is scrolled to its end stays there. Emits textChanged() once.
     void append(const QString &line);
 
 protected:

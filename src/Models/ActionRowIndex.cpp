@@ -24,6 +24,7 @@ void ActionRowIndex::clear()
     m_places.clear();
     m_rowsOfHotkeys.clear();
     m_areHotkeysRead = false;
+    m_rowsOfRecords.clear();
 }
 
 void ActionRowIndex::reserve(std::size_t rows)
@@ -82,6 +83,16 @@ std::vector<int> ActionRowIndex::rowsOfActions(
             rows[i] = m_places[placeOf(*identifiers[i], hashes[i])].row;
     }
     return rows;
+}
+
+int ActionRowIndex::rowOfRecord(const VelAction *action) const
+{
+    if (m_rowsOfRecords.size() != m_rows.size()) {
+        for (int row = 0; row < rowCount(); ++row)
+            m_rowsOfRecords[this->row(row).action] = row;
+    }
+    const auto found = m_rowsOfRecords.find(action);
+    return found == m_rowsOfRecords.end() ? -1 : found->second;
 }
 
 int ActionRowIndex::rowOfHotkey(const QString &hotkey, unsigned long contextId) const

@@ -41,6 +41,8 @@ public:
     int rowOfAction(const ActionIdentifier &identifier) const;
     /// The same for many actions, in their order.
     std::vector<int> rowsOfActions(const std::vector<const ActionIdentifier *> &identifiers) const;
+    /// The row of that record of an action, which need not exist any longer, or -1.
+    int rowOfRecord(const VelAction *action) const;
     /// The first row of the context whose hotkeys contain @p hotkey, letter case ignored, or -1.
     int rowOfHotkey(const QString &hotkey, unsigned long contextId) const;
 
@@ -80,6 +82,8 @@ private:
     // Filled at the first question: a table can be shown and edited without one.
     mutable std::unordered_map<Key, std::vector<int>, KeyHash> m_rowsOfHotkeys; // ascending rows
     mutable bool m_areHotkeysRead = false;
+    // Filled at the first question, too: only a table whose rows have been moved has any.
+    mutable std::unordered_map<const VelAction *, int> m_rowsOfRecords;
 };
 
 } // namespace CUI

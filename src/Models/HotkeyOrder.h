@@ -10,7 +10,8 @@
 
 namespace CUI {
 
-/// Compares key combinations by their modifiers and keys, as they are named in the user's language.
+/// Compares key combinations by their modifiers and keys, as they are named in the user's language
+/// when they are added.
 class HotkeyOrder
 {
 public:

@@ -50,23 +50,28 @@ unsigned long idOfContext(const ICuiActionManager &registry, const QString &name
     return id;
 }
 
-/// The shortcuts of the action as the store has them.
-QStringList hotkeysOf(const QAction &action, const ActionIdentifier &identifier)
+/// Shortcuts as the store has them.
+QStringList hotkeysOf(const QList<QKeySequence> &shortcuts)
 {
     QStringList hotkeys;
-    for (const QKeySequence &key : action.shortcuts()) {
-        const QString text = key.toString(QKeySequence::PortableText);
-        if (key.count() == 1) {
-            hotkeys << text;
-        } else if (!key.isEmpty()) {
-            logLazily(QvelMessageLog::Warning, [&] {
-                return QStringLiteral("Shortcut '%1' for Action '%2' is more than one key "
-                                      "combination and is left out.")
-                        .arg(text, identifier.toString());
-            });
-        }
+    for (const QKeySequence &key : shortcuts) {
+        if (key.count() == 1)
+            hotkeys << key.toString(QKeySequence::PortableText);
     }
     return hotkeys;
+}
+
+void warnOfSequences(const QList<QKeySequence> &shortcuts, const ActionIdentifier &identifier)
+{
+    for (const QKeySequence &key : shortcuts) {
+        if (key.count() < 2)
+            continue;
+        logLazily(QvelMessageLog::Warning, [&] {
+            return QStringLiteral("Shortcut '%1' for Action '%2' is more than one key combination "
+                                  "and is left out.")
+                    .arg(key.toString(QKeySequence::PortableText), identifier.toString());
+        });
+    }
 }
 
 /// Gives the actions of one window their identifiers.
@@ -133,11 +138,13 @@ void QvelActionBinder::Private::registerAction(ICuiActionManager &registry,
     const QString text = WindowActions::plainText(found.action->text());
     registry.addAction(identifier, text.isEmpty() ? identifier.actionId : text, contextId,
                        found.category, false);
-    const QStringList hotkeys = hotkeysOf(*found.action, identifier);
+    const QList<QKeySequence> shortcuts = found.action->shortcuts();
+    const QStringList hotkeys = hotkeysOf(shortcuts);
     if (adopted != nullptr)
         adopted->addDefaults(identifier, hotkeys);
     for (const QString &hotkey : hotkeys)
         defaults.emplace_back(identifier, hotkey);
+    warnOfSequences(shortcuts, identifier); // last, for those who read it may destroy the binder
 }
 
 QvelActionBinder::QvelActionBinder(QvelShortcutManager *manager, QObject *parent)
@@ -203,13 +210,15 @@ unsigned long QvelActionBinder::adopt(QWidget *window, unsigned long tableId,
                             : action->objectName());
         }
     }
-    for (std::size_t i = 0; i < found.size(); ++i) {
-        if (!identifiers[i].isEmpty())
+    // From here on the application hears of things, and may destroy actions and the binder.
+    const QPointer<QvelActionBinder> alive(this);
+    for (std::size_t i = 0; i < found.size() && !alive.isNull(); ++i) {
+        if (!identifiers[i].isEmpty() && !found[i].action.isNull())
             d->registerAction(registry, identifiers[i], found[i], context);
     }
-    for (std::size_t i = 0; i < found.size(); ++i) {
+    for (std::size_t i = 0; i < found.size() && !alive.isNull(); ++i) {
         if (!identifiers[i].isEmpty())
-            bind(identifiers[i], found[i].action);
+            bind(identifiers[i], found[i].action); // none, if it is gone
     }
     return context;
 }

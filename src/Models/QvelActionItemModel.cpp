@@ -120,6 +120,9 @@ private:
     void noteChange(const QModelIndex &topLeft, const QModelIndex &bottomRight);
     void noteRow(int row, int firstColumn, int lastColumn);
 
+    int indexRowOf(int row, const QvelActionItem &cell) const;
+    bool shows(int row, const QvelActionItem &cell, const ActionIdentifier &identifier) const;
+    unsigned long contextOf(int row, const QvelActionItem &cell) const;
     int searchRow(int column, const ActionIdentifier &identifier) const;
     VelAction *searchHolder(const QString &hotkey, unsigned long contextId) const;
 
@@ -241,10 +244,34 @@ void QvelActionItemModel::Private::updateHotkeys(int row)
     QvelActionItem *cell = cellAt(row, HotkeyColumn);
     if (cell == nullptr)
         return;
-    // The registry may have dropped the action since it was loaded.
-    const bool isKnown = row < m_index.rowCount() && m_index.row(row).action == cell->velAction();
-    cell->setText(
-            hotkeysOf(isKnown ? m_index.row(row).identifier : cell->velAction()->identifier()));
+    const int known = indexRowOf(row, *cell);
+    const QString hotkeys =
+            hotkeysOf(known < 0 ? cell->velAction()->identifier() : m_index.row(known).identifier);
+    if (known >= 0 && m_isIndexTrue)
+        m_index.setHotkeys(known, hotkeys); // the signals that tell it may be blocked
+    cell->setText(hotkeys);
+}
+
+/// The row of the index that knows the action of a cell, or -1. The registry may have dropped the
+/// action since it was loaded; then the index is all that can tell. @p row is that of the cell.
+int QvelActionItemModel::Private::indexRowOf(int row, const QvelActionItem &cell) const
+{
+    const bool isInPlace = row < m_index.rowCount() && m_index.row(row).action == cell.velAction();
+    return isInPlace ? row : m_index.rowOfRecord(cell.velAction());
+}
+
+bool QvelActionItemModel::Private::shows(int row, const QvelActionItem &cell,
+                                         const ActionIdentifier &identifier) const
+{
+    const int known = indexRowOf(row, cell);
+    return known < 0 ? cell.velAction()->identifier() == identifier
+                     : m_index.row(known).identifier == identifier;
+}
+
+unsigned long QvelActionItemModel::Private::contextOf(int row, const QvelActionItem &cell) const
+{
+    const int known = indexRowOf(row, cell);
+    return known < 0 ? cell.velAction()->contextId() : m_index.row(known).contextId;
 }
 
 int QvelActionItemModel::Private::rowOf(int column, const ActionIdentifier &identifier) const
@@ -263,7 +290,7 @@ int QvelActionItemModel::Private::searchRow(int column, const ActionIdentifier &
 {
     for (int row = 0; row < m_model.rowCount(); ++row) {
         const QvelActionItem *cell = cellAt(row, column);
-        if (cell != nullptr && cell->velAction()->identifier() == identifier)
+        if (cell != nullptr && shows(row, *cell, identifier))
             return row;
     }
     return -1;
@@ -288,8 +315,7 @@ VelAction *QvelActionItemModel::Private::searchHolder(const QString &hotkey,
 {
     for (int row = 0; row < m_model.rowCount(); ++row) {
         const QvelActionItem *cell = cellAt(row, HotkeyColumn);
-        if (cell != nullptr && cell->velAction()->contextId() == contextId
-            && lists(cell->text(), hotkey))
+        if (cell != nullptr && contextOf(row, *cell) == contextId && lists(cell->text(), hotkey))
             return cell->velAction();
     }
     return nullptr;
@@ -298,6 +324,8 @@ VelAction *QvelActionItemModel::Private::searchHolder(const QString &hotkey,
 void QvelActionItemModel::Private::noteReset()
 {
     m_isIndexTrue = isOwnReset;
+    if (!isOwnReset)
+        m_index.clear(); // nothing that was loaded is left
     isOwnReset = false;
 }
 

@@ -25,9 +25,11 @@ class VelAction;
 /// only. Nothing reports an error: what is not found is null.
 ///
 /// Its cells are QvelActionItem objects, selectable and enabled, never editable. The model owns
-/// them, the registry owns their actions. Every look-up is fast however many rows there are, as
-/// long as the rows stand as they were loaded; a caller that moves, adds or replaces rows itself
-/// makes it search row by row.
+/// them, the registry owns their actions. Until the next load, rows of actions that the registry
+/// has dropped still answer to their identifiers. Every look-up is fast however many rows there
+/// are, as long as the rows stand as they were loaded; a caller that moves, adds or replaces rows
+/// itself makes it search row by row. What a caller changes while the model's signals are blocked
+/// it does not see.
 class CUI_EXPORT QvelActionItemModel : public QStandardItemModel
 {
     Q_OBJECT

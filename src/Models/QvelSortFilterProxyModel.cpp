@@ -4,6 +4,7 @@
 #include "HotkeyMatcher.h"
 #include "HotkeyOrder.h"
 #include "HotkeyParts.h"
+#include "LanguageWatch.h"
 #include "QvelShortcutManager.h"
 #include "SearchPattern.h"
 #include "SourceRows.h"
@@ -98,6 +99,8 @@ public:
     HotkeyOrder hotkeys;
 
 private:
+    void forgetKeyNames();
+
     /// What a hotkey cell is sorted by, during one search.
     struct SortedHotkey {
         int number = 0;
@@ -114,6 +117,7 @@ private:
     unsigned m_generationOfNames = 0;
     std::vector<SortedHotkey> m_sortedHotkeys;
     unsigned m_generationOfHotkeys = 0;
+    LanguageWatch m_languageWatch{[this] { forgetKeyNames(); }};
 
     unsigned m_searchCount = 1;
     bool m_wasHotkeySearch = false;
@@ -245,6 +249,12 @@ int QvelSortFilterProxyModel::Private::hotkeyOfText(int number)
         sorted = {hotkeys.add(m_proxy.getSearchedHotkey(list)), m_searchCount};
     }
     return sorted.number;
+}
+
+void QvelSortFilterProxyModel::Private::forgetKeyNames()
+{
+    hotkeys = HotkeyOrder();
+    m_sortedHotkeys.clear();
 }
 
 QvelSortFilterProxyModel::QvelSortFilterProxyModel(QvelShortcutManager *shortcutManager,
@@ -400,8 +410,12 @@ void QvelSortFilterProxyModel::switchIndexOnEqualString(
         const QList<QvelActionItemModel::ActionTreeColumns> &columns) const
 {
     for (const QvelActionItemModel::ActionTreeColumns column : columns) {
-        left = left.sibling(left.row(), column);
-        right = right.sibling(right.row(), column);
+        const QModelIndex nextLeft = left.sibling(left.row(), column);
+        const QModelIndex nextRight = right.sibling(right.row(), column);
+        if (!nextLeft.isValid() || !nextRight.isValid())
+            return;
+        left = nextLeft;
+        right = nextRight;
         if (d->rows.textNumber(left, column) != d->rows.textNumber(right, column))
             return;
     }

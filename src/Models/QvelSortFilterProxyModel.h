@@ -24,9 +24,10 @@ class QvelShortcutManager;
 /// filters of the base class (regular expression, fixed string, wildcard) have no effect.
 ///
 /// Rows of a source model whose hotkey column holds no QvelActionItem with an action are never
-/// listed. What is read from a row is kept until the source model announces a change of it; the
-/// key names by which hotkeys are sorted are those of the language at their first comparison.
-/// User-interface thread only.
+/// listed. What is read from a row is kept until the source model announces a change of it; what is
+/// read from an action, for as long as the row shows it, even if the registry drops it. Hotkeys are
+/// sorted by the names that their keys have in the current language; after a change of it the order
+/// follows at the next sort or invalidate(). User-interface thread only.
 class CUI_EXPORT QvelSortFilterProxyModel : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -41,8 +42,9 @@ public:
     };
     Q_ENUM(HotkeyFilter)
 
-    /// How well a name matches a search; less is better. Letter case is ignored. A word counts as
-    /// one of its own only between blanks or at the end; see evaluateStringSearch().
+    /// How well a name matches a search; less is better. Letter case is ignored. A word of its own
+    /// stands between blanks, or at the end behind a blank; for ContainsWordAsWord also at the
+    /// start before a blank. See evaluateStringSearch().
     enum ActionSearchingSortOrder {
         StartsWithSearch = 0, ///< the name starts with the whole search
         ContainsSearchAsWord = 1, ///< it holds the whole search as a word of its own
@@ -64,9 +66,10 @@ public:
     ///
     /// With filter key column ActionColumn, a name matches when it holds every word of the text
     /// (they are separated by blanks), in whatever order. With HotkeyColumn the text is the
-    /// portable text of one key combination: the hotkeys of a row match when all its modifiers are
-    /// among their words and one of them has its key; a text that is no key combination matches
-    /// every row that has a hotkey. With any other column the search is not active.
+    /// portable text of one key combination: the hotkeys of a row match when one of them has its
+    /// key, and each of its modifiers stands in that hotkey or in a later one; a text that is no
+    /// key combination matches every row that has a hotkey. With any other column the search is not
+    /// active.
     ///
     /// Emits layoutAboutToBeChanged(), layoutChanged() and, unless a search by hotkey was started,
     /// filterInvalidated().
@@ -98,7 +101,7 @@ Q_SIGNALS:
     void filterInvalidated();
 
 protected:
-    /// True when the action of the row passes the search and both filters.
+    /// True when the action of the row passes the search and all filters.
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
     /// The order of two source indexes. Equal texts are decided by the texts of other columns;
@@ -122,8 +125,8 @@ protected:
     /// matches, else the first. Empty for an empty list.
     QString getSearchedHotkey(const QStringList &hotkeys) const;
 
-    /// Moves both indexes through @p columns of their rows, of the top level, as far as the first
-    /// column where their texts differ, or else to the last.
+    /// Moves both indexes through @p columns of their rows as far as the first column where their
+    /// texts differ, or else to the last; not beyond a column that the source does not have.
     void switchIndexOnEqualString(
             QModelIndex &left, QModelIndex &right,
             const QList<QvelActionItemModel::ActionTreeColumns> &columns) const;

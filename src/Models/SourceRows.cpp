@@ -8,6 +8,8 @@
 #include <QStandardItemModel>
 
 #include <algorithm>
+#include <unordered_map>
+#include <utility>
 
 namespace CUI {
 
@@ -21,13 +23,18 @@ constexpr int stale(int number)
     return -2 - number;
 }
 
+const VelAction *actionOf(const QStandardItem *item)
+{
+    const auto *cell = dynamic_cast<const QvelActionItem *>(item);
+    return cell == nullptr ? nullptr : cell->velAction();
+}
+
 ActionRow read(const QStandardItem *hotkeyItem)
 {
     ActionRow row;
     row.hotkeyItem = hotkeyItem;
-    const auto *cell = dynamic_cast<const QvelActionItem *>(hotkeyItem);
-    if (cell != nullptr && cell->velAction() != nullptr) {
-        row.action = cell->velAction();
+    row.action = actionOf(hotkeyItem);
+    if (row.action != nullptr) {
         row.identifier = row.action->identifier();
         row.contextId = row.action->contextId();
         row.name = row.action->name();
@@ -61,37 +68,62 @@ const FoldedText &ActionRow::foldedHotkeys(const QString &text)
 
 void SourceRows::setModel(const QAbstractItemModel *model)
 {
-    forgetRows();
     m_model = model;
     m_items = qobject_cast<const QStandardItemModel *>(model);
     m_receiver = std::make_unique<QObject>();
     for (const auto &column : m_columns)
         column->isText = true;
+    readRows();
     if (m_items != nullptr)
         connectTo(*model);
 }
 
 void SourceRows::connectTo(const QAbstractItemModel &model)
 {
-    const auto forget = [this] { forgetRows(); };
+    const auto arrange = [this] { arrangeRows(); };
     QObject *receiver = m_receiver.get();
-    QObject::connect(&model, &QAbstractItemModel::modelReset, receiver, forget);
-    QObject::connect(&model, &QAbstractItemModel::layoutChanged, receiver, forget);
-    QObject::connect(&model, &QAbstractItemModel::rowsInserted, receiver, forget);
-    QObject::connect(&model, &QAbstractItemModel::rowsRemoved, receiver, forget);
-    QObject::connect(&model, &QAbstractItemModel::rowsMoved, receiver, forget);
-    QObject::connect(&model, &QAbstractItemModel::columnsInserted, receiver, forget);
-    QObject::connect(&model, &QAbstractItemModel::columnsRemoved, receiver, forget);
-    QObject::connect(&model, &QAbstractItemModel::columnsMoved, receiver, forget);
+    QObject::connect(&model, &QAbstractItemModel::modelReset, receiver, [this] { readRows(); });
+    QObject::connect(&model, &QAbstractItemModel::rowsInserted, receiver,
+                     [this](const QModelIndex &parent, int first, int last) {
+                         if (!parent.isValid())
+                             noteInsertion(first, last);
+                     });
+    QObject::connect(&model, &QAbstractItemModel::rowsRemoved, receiver,
+                     [this](const QModelIndex &parent, int first, int last) {
+                         if (!parent.isValid())
+                             noteRemoval(first, last);
+                     });
+    QObject::connect(&model, &QAbstractItemModel::rowsMoved, receiver, arrange);
+    QObject::connect(&model, &QAbstractItemModel::layoutChanged, receiver, arrange);
+    QObject::connect(&model, &QAbstractItemModel::columnsInserted, receiver, arrange);
+    QObject::connect(&model, &QAbstractItemModel::columnsRemoved, receiver, arrange);
+    QObject::connect(&model, &QAbstractItemModel::columnsMoved, receiver, arrange);
     QObject::connect(&model, &QAbstractItemModel::dataChanged, receiver,
                      [this](const QModelIndex &topLeft, const QModelIndex &bottomRight) {
-                         forgetCells(topLeft, bottomRight);
+                         noteChange(topLeft, bottomRight);
                      });
     QObject::connect(&model, &QObject::destroyed, receiver, [this] {
-        forgetRows();
         m_model = nullptr;
         m_items = nullptr;
+        readRows();
     });
+}
+
+void SourceRows::noteChange(const QModelIndex &topLeft, const QModelIndex &bottomRight)
+{
+    if (!topLeft.isValid() || topLeft.parent().isValid())
+        return;
+    const int hotkeys = QvelActionItemModel::HotkeyColumn;
+    const bool isOfHotkeys = topLeft.column() <= hotkeys && hotkeys <= bottomRight.column();
+    // The range may end below the last row.
+    const int last = std::min(bottomRight.row(), m_rowCount - 1);
+    for (int row = topLeft.row(); row <= last; ++row) {
+        if (isOfHotkeys)
+            checkRow(row);
+        forgetNumbers(row, topLeft.column(), bottomRight.column());
+    }
+    for (const auto &column : m_columns)
+        dropUnused(*column);
 }
 
 const QStandardItem *SourceRows::hotkeyItem(int row, const QModelIndex &parent) const
@@ -106,8 +138,6 @@ const QStandardItem *SourceRows::hotkeyItem(int row, const QModelIndex &parent) 
 
 ActionRow &SourceRows::row(int number, const QModelIndex &parent, const QStandardItem *hotkeyItem)
 {
-    if (m_rowCount < 0)
-        prepareRows();
     const bool isKept = !parent.isValid() && number < m_rowCount;
     ActionRow &row = isKept ? m_rows[static_cast<std::size_t>(number)] : m_looseRow;
     if (!isKept || hotkeyItem == nullptr || row.hotkeyItem != hotkeyItem)
@@ -124,8 +154,6 @@ SourceColumn &SourceRows::addColumn(int number)
 
 int SourceRows::readCell(const QModelIndex &index, int column)
 {
-    if (m_rowCount < 0)
-        prepareRows();
     SourceColumn &texts = this->column(column);
     const QVariant value = index.data();
     if (!covers(index) || index.column() != column)
@@ -152,38 +180,83 @@ int SourceRows::addText(SourceColumn &column, const QVariant &value)
     return column.texts.add(text);
 }
 
-void SourceRows::prepareRows()
+// The rows. The registry may have dropped the action of any row that was read before.
+
+void SourceRows::readRows()
 {
-    m_rowCount = m_items == nullptr ? 0 : m_items->rowCount();
-    m_topLevel = m_rowCount == 0 ? nullptr : m_items->index(0, 0).internalPointer();
-    m_rows.assign(static_cast<std::size_t>(m_rowCount), ActionRow());
+    m_rows.clear();
+    arrangeRows();
 }
 
-void SourceRows::forgetRows()
+void SourceRows::noteInsertion(int first, int last)
 {
-    m_rowCount = -1;
-    m_rows.clear();
+    const int count = last - first + 1;
+    if (m_rowCount + count != m_items->rowCount()) {
+        arrangeRows(); // a receiver of the same signal has changed the model again
+        return;
+    }
+    forgetNumbers();
+    m_rows.insert(m_rows.begin() + first, static_cast<std::size_t>(count), ActionRow());
+    noteRowCount();
+    for (int row = first; row <= last; ++row)
+        checkRow(row);
+}
+
+void SourceRows::noteRemoval(int first, int last)
+{
+    if (m_rowCount - (last - first + 1) != m_items->rowCount()) {
+        arrangeRows();
+        return;
+    }
+    forgetNumbers();
+    m_rows.erase(m_rows.begin() + first, m_rows.begin() + last + 1);
+    noteRowCount();
+}
+
+/// The rows stand in another order, or other items are in the hotkey column.
+void SourceRows::arrangeRows()
+{
+    forgetNumbers();
+    std::unordered_map<const QStandardItem *, ActionRow> known;
+    for (ActionRow &row : m_rows)
+        known.emplace(row.hotkeyItem, std::move(row));
+    const int count = m_items == nullptr ? 0 : m_items->rowCount();
+    m_rows.assign(static_cast<std::size_t>(count), ActionRow());
+    noteRowCount();
+    for (int row = 0; row < m_rowCount; ++row) {
+        const auto found = known.find(hotkeyItem(row, QModelIndex()));
+        if (found != known.end())
+            m_rows[static_cast<std::size_t>(row)] = std::move(found->second);
+        checkRow(row);
+    }
+}
+
+void SourceRows::checkRow(int row)
+{
+    ActionRow &known = m_rows[static_cast<std::size_t>(row)];
+    const QStandardItem *item = hotkeyItem(row, QModelIndex());
+    if (item != known.hotkeyItem || actionOf(item) != known.action)
+        known = read(item);
+}
+
+void SourceRows::noteRowCount()
+{
+    m_rowCount = static_cast<int>(m_rows.size());
+    m_topLevel = m_rowCount == 0 ? nullptr : m_items->index(0, 0).internalPointer();
+}
+
+// The numbers of the texts
+
+void SourceRows::forgetNumbers()
+{
     for (const auto &column : m_columns) {
         dropUnused(*column);
         column->numbers.clear();
     }
 }
 
-void SourceRows::forgetCells(const QModelIndex &topLeft, const QModelIndex &bottomRight)
+void SourceRows::forgetNumbers(int row, int firstColumn, int lastColumn)
 {
-    if (!topLeft.isValid() || topLeft.parent().isValid())
-        return;
-    // The range may end below the last row.
-    const int last = std::min(bottomRight.row(), m_rowCount - 1);
-    for (int row = topLeft.row(); row <= last; ++row)
-        forgetRow(row, topLeft.column(), bottomRight.column());
-    for (const auto &column : m_columns)
-        dropUnused(*column);
-}
-
-void SourceRows::forgetRow(int row, int firstColumn, int lastColumn)
-{
-    m_rows[static_cast<std::size_t>(row)].hotkeyItem = nullptr;
     const int last = std::min(lastColumn, static_cast<int>(m_columns.size()) - 1);
     for (int column = firstColumn; column <= last; ++column) {
         std::vector<int> &numbers = m_columns[static_cast<std::size_t>(column)]->numbers;

@@ -24,8 +24,8 @@ class VelAction;
 /// What a search reads of one row. These are copies: the registry may drop the action before the
 /// source model is loaded anew.
 struct ActionRow {
-    const QStandardItem *hotkeyItem = nullptr; ///< null when the row has not been read
-    const VelAction *action = nullptr; ///< null when the row shows none
+    const QStandardItem *hotkeyItem = nullptr; ///< null when the row has none
+    const VelAction *action = nullptr; ///< not looked into again; null when the row shows none
     ActionIdentifier identifier;
     unsigned long contextId = 0;
     QString name;
@@ -48,7 +48,8 @@ struct SourceColumn {
     std::vector<int> numbers; ///< of the rows; inside SourceRows only
 };
 
-/// The rows of a proxy's source model, each read once and kept until the model announces a change.
+/// The rows of a proxy's source model, each read when the model gets it and kept until the model
+/// announces that another item is in its place.
 ///
 /// Rows are kept for the top level of a QStandardItemModel. Cells of other models and levels are
 /// read at every question; their texts get numbers all the same.
@@ -89,10 +90,16 @@ public:
 
 private:
     void connectTo(const QAbstractItemModel &model);
-    void prepareRows();
-    void forgetRows();
-    void forgetCells(const QModelIndex &topLeft, const QModelIndex &bottomRight);
-    void forgetRow(int row, int firstColumn, int lastColumn);
+    void noteInsertion(int first, int last);
+    void noteRemoval(int first, int last);
+    void noteChange(const QModelIndex &topLeft, const QModelIndex &bottomRight);
+
+    void readRows();
+    void arrangeRows();
+    void checkRow(int row);
+    void noteRowCount();
+    void forgetNumbers();
+    void forgetNumbers(int row, int firstColumn, int lastColumn);
     bool covers(const QModelIndex &index) const
     {
         return index.row() < m_rowCount && index.internalPointer() == m_topLevel
@@ -106,9 +113,9 @@ private:
     const QStandardItemModel *m_items = nullptr; // the same, or null when it is none of these
     std::unique_ptr<QObject> m_receiver;
 
-    int m_rowCount = -1; // negative while the rows are unknown
-    const void *m_topLevel = nullptr; // what tells indexes of the top level from those of others
     std::vector<ActionRow> m_rows;
+    int m_rowCount = 0; // of these
+    const void *m_topLevel = nullptr; // what tells indexes of the top level from those of others
     std::vector<std::unique_ptr<SourceColumn>> m_columns;
     ActionRow m_looseRow;
 };

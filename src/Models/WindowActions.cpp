@@ -1,6 +1,5 @@
 #include "WindowActions.h"
 
-#include <QAction>
 #include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <QAction>
+#include <QPointer>
 #include <QString>
 
 #include <vector>
 
-class QAction;
 class QWidget;
 
 namespace CUI {
@@ -13,7 +14,7 @@ namespace CUI {
 namespace WindowActions {
 
 struct Found {
-    QAction *action;
+    QPointer<QAction> action;
     /// The plain title of the menu or toolbar in which it was met first; null for none.
     QString category;
 };

@@ -220,10 +220,12 @@ void TestMessageLogWidget::appendsLoggedLinesAsPlainParagraphs()
     QSignalSpy changes(&log, &QTextEdit::textChanged);
     QvelMessageLog::getInstance().logWarningMessage(s("<b>a</b> &lt; b"));
     QvelMessageLog::getInstance().logErrorMessage(s("failed\nLine: 7"));
-    QCOMPARE(changes.count(), 2);
+    QvelMessageLog::getInstance().logErrorMessage(s("a\r\nb\rc\n\nd\u2029e\ufdd0f\ufdd1g"));
+    QCOMPARE(changes.count(), 3);
     QVERIFY(log.isReadOnly());
-    QCOMPARE(log.toPlainText(), s("Warning: <b>a</b> &lt; b\nError: failed\nLine: 7"));
-    QCOMPARE(log.document()->blockCount(), 2);
+    QCOMPARE(log.toPlainText(), s("Warning: <b>a</b> &lt; b\nError: failed\nLine: 7\n"
+                                  "Error: a\nb\nc\n\nd\ne\nf\ng"));
+    QCOMPARE(log.document()->blockCount(), 3);
 }
 
 void TestMessageLogWidget::followsItsEnd()

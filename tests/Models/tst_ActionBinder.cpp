@@ -1,6 +1,7 @@
 #include "TestHost.h"
 
 #include <UiCustomizations/QvelActionBinder.h>
+#include <UiCustomizations/QvelMessageLog.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
 #include <QAction>
@@ -560,6 +561,30 @@ void TestActionBinder::survivesWhatListenersDo()
     m_store->clearTransforms();
     QVERIFY(m_binder == nullptr);
     QVERIFY(action->shortcuts().isEmpty());
+
+    // While a window is adopted.
+    m_binder = std::make_unique<QvelActionBinder>(m_store.get());
+    QWidget window;
+    QPointer<QAction> actions[4];
+    for (int i = 0; i < 4; ++i) {
+        actions[i] = new QAction(QString::number(i), &window);
+        actions[i]->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_0 + i));
+        window.addAction(actions[i]);
+    }
+    connect(actions[0], &QAction::changed, this, [&actions] { delete actions[1]; });
+    connect(actions[2], &QAction::changed, this, [this] { m_binder.reset(); });
+    m_binder->adopt(&window);
+    QVERIFY(actions[1].isNull());
+    QVERIFY(m_binder == nullptr);
+    for (const int i : {0, 2, 3})
+        QCOMPARE(keysOf(*actions[i]), QStringLiteral("Ctrl+%1").arg(i));
+
+    m_binder = std::make_unique<QvelActionBinder>(m_store.get());
+    actions[0]->setShortcut(QKeySequence(QStringLiteral("Ctrl+K, Ctrl+C")));
+    connect(&CUI::QvelMessageLog::getInstance(), &CUI::QvelMessageLog::messageLogged, &window,
+            [this] { m_binder.reset(); });
+    m_binder->adopt(&window, 2);
+    QVERIFY(m_binder == nullptr);
 }
 
 QTEST_MAIN(TestActionBinder)

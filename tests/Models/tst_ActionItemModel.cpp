@@ -83,6 +83,7 @@ private Q_SLOTS:
     void waitsForAConfiguration();
     void findsItems();
     void findsItemsAmongMovedRows();
+    void survivesAChangedRegistry_data();
     void survivesAChangedRegistry();
     void findsActionsOfIndexes();
     void findsActionsOfHotkeys_data();
@@ -320,20 +321,48 @@ void TestActionItemModel::findsItemsAmongMovedRows()
     QVERIFY(m_model->itemFromVelAction(0, id("copy")) == nullptr);
 }
 
+void TestActionItemModel::survivesAChangedRegistry_data()
+{
+    QTest::addColumn<bool>("isMoved");
+    QTest::newRow("rows as they were loaded") << false;
+    QTest::newRow("moved rows") << true;
+}
+
 void TestActionItemModel::survivesAChangedRegistry()
 {
+    QFETCH(bool, isMoved);
+    CUI::QvelSortFilterProxyModel proxy(m_store.get());
+    proxy.setSourceModel(m_model.get());
+    proxy.sort(Model::HotkeyColumn);
+    QCOMPARE(proxy.index(0, 0).data().toString(), s("Copy"));
+
     // The rows still show the old actions, which are gone.
     m_host->registry()->renameAction(id("copy"), id("duplicate"), s("Duplicate"));
     m_host->registry()->removeAction(id("cut"));
+    m_host->registry()->addAction(id("paste"), s("Insert"), 6, QString(), false);
+    if (isMoved)
+        m_model->sort(Model::ActionColumn, Qt::DescendingOrder);
     assign("duplicate", "F2");
     m_store->unassignShortcut(id("copy"), s("Ctrl+A"), QString());
     QCOMPARE(text("copy", Model::HotkeyColumn), s("F2"));
+    const QModelIndex copy = m_model->itemFromVelAction(0, id("copy"))->index();
+    QCOMPARE(m_model->velActionFromShortcut(s("F2"), 5), m_model->velActionFromModelIdx(copy));
+    QVERIFY(m_model->velActionFromShortcut(s("F2"), 6) == nullptr);
+
+    m_model->invalidateAllRows();
+    proxy.setFilterSelectedContext(5);
+    QCOMPARE(proxy.rowCount(), 3);
+    m_model->insertRow(0, new QStandardItem(s("Heading")));
+    m_model->removeRow(rowOf("cut"));
+    proxy.updateFilterString(s("pas"));
+    QCOMPARE(proxy.rowCount(), 1);
     m_store->clearShortcuts();
     QCOMPARE(text("copy", Model::HotkeyColumn), QString());
 
     m_model->loadActionsToModel();
     QCOMPARE(m_model->rowCount(), 3);
     QCOMPARE(text("duplicate", Model::ActionColumn), s("Duplicate"));
+    QCOMPARE(proxy.rowCount(), 0); // now it is "Insert", of another context
 }
 
 void TestActionItemModel::findsActionsOfIndexes()
@@ -395,6 +424,12 @@ void TestActionItemModel::findsHotkeysOfChangedCells()
     QCOMPARE(m_model->velActionFromShortcut(s("F5"), 5)->identifier(), id(first));
     m_model->itemFromVelAction(1, id(first))->setText(QString());
     QVERIFY(m_model->velActionFromShortcut(s("F5"), 5)->identifier() != id(first));
+
+    {
+        const QSignalBlocker blocker(m_model.get());
+        assign("paste", "F7");
+    }
+    QCOMPARE(m_model->velActionFromShortcut(s("F7"), 5)->name(), s("Paste"));
 }
 
 void TestActionItemModel::invalidatesPastTheEnd()

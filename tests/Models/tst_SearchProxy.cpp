@@ -1,56 +1,29 @@
-#include "TestHost.h"
+#include "ProxyTest.h"
 
 #include <UiCustomizations/QvelActionItem.h>
-#include <UiCustomizations/QvelActionItemModel.h>
-#include <UiCustomizations/QvelMessageLog.h>
-#include <UiCustomizations/QvelShortcutManager.h>
-#include <UiCustomizations/QvelSortFilterProxyModel.h>
 
 #include <QStringListModel>
 #include <QtTest>
 
-using CUI::ActionIdentifier;
-using CUI::QvelActionItemModel;
-using CUI::QvelShortcutManager;
-using CUI::QvelSortFilterProxyModel;
+#include <utility>
+
 using Model = CUI::QvelActionItemModel;
 
 namespace {
-
-QString s(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-QStringList list(const char *text)
-{
-    return s(text).isEmpty() ? QStringList() : s(text).split(QLatin1Char('|'));
-}
-
-/// Makes the protected operations public.
-class Proxy : public QvelSortFilterProxyModel
-{
-public:
-    using QvelSortFilterProxyModel::evaluateStringSearch;
-    using QvelSortFilterProxyModel::getModifierAndKey;
-    using QvelSortFilterProxyModel::getRegularExpressionResult;
-    using QvelSortFilterProxyModel::getSearchedHotkey;
-    using QvelSortFilterProxyModel::lessThan;
-    using QvelSortFilterProxyModel::QvelSortFilterProxyModel;
-    using QvelSortFilterProxyModel::switchIndexOnEqualString;
-};
 
 /// Counts layoutChanged() and filterInvalidated().
 class SignalCounts
 {
 public:
-    explicit SignalCounts(const Proxy &proxy)
+    explicit SignalCounts(const CUI::QvelSortFilterProxyModel &proxy)
     {
-        QObject::connect(&proxy, &Proxy::layoutChanged, &m_receiver, [this] { ++m_counts.first; });
-        QObject::connect(&proxy, &Proxy::filterInvalidated, &m_receiver, [this] {
-            ++m_counts.second;
-            m_isInOrder = m_isInOrder && m_counts.first == m_counts.second;
-        });
+        QObject::connect(&proxy, &CUI::QvelSortFilterProxyModel::layoutChanged, &m_receiver,
+                         [this] { ++m_counts.first; });
+        QObject::connect(&proxy, &CUI::QvelSortFilterProxyModel::filterInvalidated, &m_receiver,
+                         [this] {
+                             ++m_counts.second;
+                             m_isInOrder = m_isInOrder && m_counts.first == m_counts.second;
+                         });
     }
 
     QPair<int, int> take()
@@ -66,23 +39,14 @@ private:
     bool m_isInOrder = true;
 };
 
-/// What an action of the test is made of.
-struct Action {
-    const char *name;
-    unsigned long context = 5;
-    const char *category = "Tools";
-    const char *hotkeys = "";
-};
-
 } // namespace
 
-class TestSearchProxy : public QObject
+/// Which rows the proxy lists.
+class TestSearchProxy : public ProxyTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void ranksNames_data();
     void ranksNames();
     void splitsHotkeys_data();
@@ -99,80 +63,8 @@ private Q_SLOTS:
     void announcesEachChange();
     void ignoresUnknownHotkeyFilters();
     void listsOnlyActionItems();
-    void sorts_data();
-    void sorts();
-    void ranksOnlyWhenAsked();
-    void sortsBySearchedHotkey();
-    void breaksTies();
-    void followsSortSettings();
-    void comparesCellsOfAnySource();
-    void readsChangedRows();
     void worksWithoutStore();
-
-private:
-    void show(const std::vector<Action> &actions);
-    /// The names of the listed rows in their order.
-    QStringList names() const;
-    QStringList sortedNames() const
-    {
-        QStringList result = names();
-        result.sort();
-        return result;
-    }
-    QModelIndex cell(const char *name, int column) const;
-    ActionIdentifier idOf(const char *name) const { return {1, s(name)}; }
-
-    std::unique_ptr<TestHost> m_host;
-    std::unique_ptr<QvelShortcutManager> m_store;
-    std::unique_ptr<QvelActionItemModel> m_model;
-    std::unique_ptr<Proxy> m_proxy;
 };
-
-void TestSearchProxy::init()
-{
-    CUI::QvelMessageLog::getInstance().setMessageLogLevel(CUI::QvelMessageLog::MessageType(0));
-    m_host = std::make_unique<TestHost>();
-    m_host->registry()->addActionContext(5, s("Edit"));
-    m_host->registry()->addActionContext(6, s("View"));
-    m_store = std::make_unique<QvelShortcutManager>();
-    m_model = std::make_unique<QvelActionItemModel>(m_store.get());
-    m_proxy = std::make_unique<Proxy>(m_store.get());
-    m_proxy->setSourceModel(m_model.get());
-    m_proxy->setSortCaseSensitivity(Qt::CaseInsensitive);
-}
-
-void TestSearchProxy::cleanup()
-{
-    m_proxy.reset();
-    m_model.reset();
-    m_store.reset();
-    m_host.reset();
-    CUI::QvelMessageLog::getInstance().setMessageLogLevel(CUI::QvelMessageLog::Warning);
-}
-
-void TestSearchProxy::show(const std::vector<Action> &actions)
-{
-    for (const Action &action : actions) {
-        m_host->registry()->addAction(idOf(action.name), s(action.name), action.context,
-                                      s(action.category), false);
-        for (const QString &hotkey : list(action.hotkeys))
-            m_store->assignShortcut(idOf(action.name), hotkey, QString());
-    }
-    m_model->loadActionsToModel();
-}
-
-QStringList TestSearchProxy::names() const
-{
-    QStringList result;
-    for (int row = 0; row < m_proxy->rowCount(); ++row)
-        result << m_proxy->index(row, 0).data().toString();
-    return result;
-}
-
-QModelIndex TestSearchProxy::cell(const char *name, int column) const
-{
-    return m_model->itemFromVelAction(column, idOf(name))->index();
-}
 
 void TestSearchProxy::ranksNames_data()
 {
@@ -486,164 +378,6 @@ void TestSearchProxy::listsOnlyActionItems()
     m_proxy->setSourceModel(&strings);
     QCOMPARE(m_proxy->rowCount(), 0);
     m_proxy->setSourceModel(nullptr);
-    QCOMPARE(m_proxy->rowCount(), 0);
-}
-
-void TestSearchProxy::sorts_data()
-{
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QStringList>("ascending");
-    QTest::addColumn<QStringList>("descending");
-
-    QTest::newRow("by name") << int(Model::ActionColumn) << list("a|B|c|d|e") << list("e|d|c|B|a");
-    QTest::newRow("by hotkey, rows without one last")
-            << int(Model::HotkeyColumn) << list("d|c|B|a|e") << list("B|c|d|e|a");
-    QTest::newRow("by group") << int(Model::GroupColumn) << list("c|a|B|d|e") << list("e|d|B|c|a");
-    QTest::newRow("by category, rows without one last")
-            << int(Model::CategoryColumn) << list("d|c|B|e|a") << list("e|B|c|d|a");
-}
-
-void TestSearchProxy::sorts()
-{
-    QFETCH(int, column);
-    // Rows that are equal in everything that is compared would keep the order of the registry.
-    m_host->registry()->addActionContext(7, s("Zoo"));
-    show({{"c", 5, "Keys", "Ctrl+A"},
-          {"a", 5, "Edit"},
-          {"e", 7, "Tools"},
-          {"B", 6, "Tools", "Alt+B"},
-          {"d", 7, "Groups", "7"}});
-    m_proxy->sort(column, Qt::AscendingOrder);
-    QTEST(names(), "ascending");
-    m_proxy->sort(column, Qt::DescendingOrder);
-    QTEST(names(), "descending");
-}
-
-void TestSearchProxy::ranksOnlyWhenAsked()
-{
-    show({{"Add box"}, {"Box"}, {"A boxer"}, {"Unbox box"}, {"boxes"}});
-    m_proxy->sort(Model::ActionColumn);
-    m_proxy->updateFilterString(s("box"));
-    QCOMPARE(names(), list("A boxer|Add box|Box|boxes|Unbox box"));
-    m_proxy->setActionSearchSorting(true);
-    QCOMPARE(names(), list("A boxer|Add box|Box|boxes|Unbox box"));
-    m_proxy->invalidate();
-    QCOMPARE(names(), list("Box|boxes|Add box|Unbox box|A boxer"));
-    m_proxy->updateFilterString(s("unbox box"));
-    QCOMPARE(names(), list("Unbox box"));
-    m_proxy->updateFilterString(QString());
-    QCOMPARE(names(), list("A boxer|Add box|Box|boxes|Unbox box"));
-}
-
-void TestSearchProxy::sortsBySearchedHotkey()
-{
-    show({{"first", 5, "", "A|Ctrl+Z"},
-          {"second", 5, "", "B|Ctrl+Alt+Z"},
-          {"third", 5, "", "C|Z"}});
-    m_proxy->sort(Model::HotkeyColumn);
-    QCOMPARE(names(), list("first|second|third"));
-    m_proxy->setFilterKeyColumn(Model::HotkeyColumn);
-    m_proxy->updateFilterString(s("Z"));
-    QCOMPARE(names(), list("third|first|second")); // by the number of modifiers
-    m_proxy->updateFilterString(s("Ctrl+Z"));
-    QCOMPARE(names(), list("first|second"));
-    m_proxy->setFilterKeyColumn(Model::ActionColumn);
-    m_proxy->updateFilterString(QString());
-    QCOMPARE(names(), list("first|second|third"));
-}
-
-void TestSearchProxy::breaksTies()
-{
-    show({{"a", 5, "Tools", "F2"}, {"b", 6, "Tools", "F2"}, {"c", 6, "Edit"}, {"d", 6, "Edit"}});
-    const auto tie = [this](const char *left, const char *right, int column,
-                            const QList<Model::ActionTreeColumns> &columns) {
-        QModelIndex l = cell(left, column);
-        QModelIndex r = cell(right, column);
-        const int leftRow = l.row();
-        const int rightRow = r.row();
-        m_proxy->switchIndexOnEqualString(l, r, columns);
-        const bool isRight = l.row() == leftRow && r.row() == rightRow && l.column() == r.column();
-        return isRight ? l.column() : -1;
-    };
-    const QList<Model::ActionTreeColumns> groupFirst{Model::GroupColumn, Model::CategoryColumn};
-    QCOMPARE(tie("a", "b", 1, groupFirst), int(Model::GroupColumn));
-    QCOMPARE(tie("b", "c", 1, groupFirst), int(Model::CategoryColumn));
-    QCOMPARE(tie("c", "d", 1, groupFirst), int(Model::CategoryColumn)); // the last, though equal
-    QCOMPARE(tie("c", "d", 1, {}), int(Model::HotkeyColumn));
-
-    QVERIFY(m_proxy->lessThan(cell("a", 1), cell("b", 1))); // by name
-    QVERIFY(m_proxy->lessThan(cell("a", 3), cell("b", 3))); // by group
-    QVERIFY(m_proxy->lessThan(cell("c", 2), cell("b", 2))); // by category
-    QVERIFY(!m_proxy->lessThan(cell("c", 2), cell("d", 2)));
-    QVERIFY(!m_proxy->lessThan(cell("d", 2), cell("c", 2)));
-    QVERIFY(!m_proxy->lessThan(QModelIndex(), QModelIndex()));
-}
-
-void TestSearchProxy::followsSortSettings()
-{
-    show({{"a"}, {"B"}, {"c"}});
-    m_proxy->sort(Model::ActionColumn);
-    QCOMPARE(names(), list("a|B|c"));
-    m_proxy->setSortCaseSensitivity(Qt::CaseSensitive);
-    QCOMPARE(names(), list("B|a|c"));
-    m_proxy->setSortLocaleAware(true);
-    QCOMPARE(m_proxy->lessThan(cell("a", 0), cell("B", 0)), s("a").localeAwareCompare(s("B")) < 0);
-
-    // By another role, and by values that are no texts.
-    m_proxy->setSortRole(Qt::UserRole);
-    m_model->setData(cell("c", 0), 1, Qt::UserRole);
-    m_model->setData(cell("a", 0), 2, Qt::UserRole);
-    m_model->setData(cell("B", 0), 10, Qt::UserRole);
-    QCOMPARE(names(), list("c|a|B"));
-    m_proxy->setSortRole(Qt::DisplayRole);
-    m_model->setData(cell("a", 0), 10);
-    m_model->setData(cell("B", 0), 9);
-    QVERIFY(m_proxy->lessThan(cell("B", 0), cell("a", 0)));
-}
-
-void TestSearchProxy::comparesCellsOfAnySource()
-{
-    show({{"a"}, {"B"}});
-    QStandardItem *parent = m_model->itemFromVelAction(0, idOf("a"));
-    for (const char *name : {"y", "X"})
-        parent->appendRow(new QStandardItem(s(name)));
-    const QModelIndex y = parent->child(0)->index();
-    const QModelIndex x = parent->child(1)->index();
-    QVERIFY(m_proxy->lessThan(x, y) && !m_proxy->lessThan(y, x));
-    QVERIFY(m_proxy->lessThan(cell("a", 0), cell("B", 0)));
-
-    QStringListModel strings(list("b|A"));
-    m_proxy->setSourceModel(&strings);
-    QVERIFY(m_proxy->lessThan(strings.index(1), strings.index(0)));
-    strings.setData(strings.index(1), s("c"));
-    QVERIFY(!m_proxy->lessThan(strings.index(1), strings.index(0)));
-}
-
-void TestSearchProxy::readsChangedRows()
-{
-    show({{"a", 5, "Tools", "F1"}, {"b", 5, "Tools"}, {"c", 5, "Tools", "F3"}});
-    m_proxy->sort(Model::HotkeyColumn);
-    m_proxy->setSelectedHotkeyFilter(Proxy::AssignedHotkeysOnly);
-    QCOMPARE(names(), list("a|c"));
-    m_store->assignShortcut(idOf("b"), s("F2"), QString());
-    QCOMPARE(names(), list("a|b|c")); // the proxy follows by itself
-    m_store->unassignShortcut(idOf("a"), s("F1"), QString());
-    QCOMPARE(names(), list("b|c"));
-
-    m_proxy->setDynamicSortFilter(false);
-    m_store->assignShortcut(idOf("c"), s("0"), QString());
-    m_store->unassignShortcut(idOf("c"), s("F3"), QString());
-    QCOMPARE(names(), list("b|c"));
-    m_proxy->invalidate();
-    QCOMPARE(names(), list("c|b"));
-
-    m_host->registry()->addAction(idOf("b"), s("b"), 6, s("Other"), false);
-    m_model->loadActionsToModel();
-    m_proxy->setFilterSelectedContext(6);
-    QCOMPARE(names(), list("b"));
-    m_model->removeRow(cell("b", 0).row());
-    QCOMPARE(names(), QStringList());
-    m_model.reset();
     QCOMPARE(m_proxy->rowCount(), 0);
 }
 
