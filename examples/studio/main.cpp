@@ -46,7 +46,8 @@ Options readOptions()
         Host::SampleHost::shippedDirectory());
     add("user", "The directory of the user's hotkey sets.", "DIR");
     add("locale", "The language, written as in de-DE.", "LOCALE");
-    add("tour", "Uses the application step by step, in English, with a picture of each in DIR.", "DIR");
+    add("tour", "Uses the application step by step, in English, with a picture of each in DIR.",
+        "DIR");
     add("legacy", "The keyboard file that the tour imports.", "FILE");
     add("screenshots", "Writes the pictures of the documentation into DIR.", "DIR");
     parser.addOption({QStringLiteral("dark"), QStringLiteral("Dark colours.")});
@@ -117,7 +118,8 @@ int main(int argc, char **argv)
     // A dialog of the desktop can neither be driven nor pictured.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, isScripted);
     Host::installTranslations();
-    // The tour looks for English texts; pictures are in English unless another language is asked for.
+    // The tour looks for English texts; pictures are in English unless another language is asked
+    // for.
     const bool isEnglish = !options.tour.isEmpty() || (isScripted && options.locale.isEmpty());
     const QString locale = isEnglish ? QStringLiteral("en") : options.locale;
     // Buttons in a language that nothing else is in would only confuse.

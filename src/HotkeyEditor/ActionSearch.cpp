@@ -33,7 +33,10 @@ void ActionSearch::searchByHotkeys()
 
 void ActionSearch::setKeyColumn(int column)
 {
-    // The search of the old kind ends under its own rules, whatever the field holds.
+    // The search of the old kind ends under its own rules while its column still counts. The other
+    // way round the ranking of names would stay on during a search for hotkeys, and order actions
+    // of the same hotkey by how their names match its text; and the old text, sought in the other
+    // column, would take the selected row out of the list.
     m_form.searchLineEdit->clear();
     m_proxy->setFilterKeyColumn(column);
     m_form.searchLineEdit->setAttribute(Qt::WA_InputMethodEnabled, !isByHotkeys());
@@ -61,6 +64,12 @@ void ActionSearch::capture(const QKeyEvent &event)
 {
     m_captured = HotkeyRecorder::capture(event);
     m_form.searchLineEdit->setText(HotkeyRecorder::text(m_captured));
+}
+
+void ActionSearch::releaseKeys()
+{
+    if (m_captured.combination == 0)
+        m_form.searchLineEdit->clear();
 }
 
 void ActionSearch::followText(const QString &text)

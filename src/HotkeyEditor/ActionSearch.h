@@ -27,6 +27,8 @@ public:
     /// A header was clicked: plain sorting by that column, even during a search.
     void returnToColumnSorting();
     void capture(const QKeyEvent &event);
+    /// The field has been left: held modifiers no longer stand in it.
+    void releaseKeys();
     void followText(const QString &text);
     /// Sets the placeholder in the current language.
     void retranslate();

@@ -42,6 +42,7 @@ ActionSelectionPanel::ActionSelectionPanel(HotkeyEditorForm &form, QvelActionIte
 
 void ActionSelectionPanel::showRow(const QModelIndex &current)
 {
+    m_captured = {}; // the field does not tell while its signals are blocked
     m_form.shortcutLineEdit->clear();
     m_form.assignedToLabel->clear();
     m_form.selectedActionLabel->clear();
@@ -89,6 +90,8 @@ void ActionSelectionPanel::showNoAction()
     m_form.actionDescriptionLabel->setText(editorText(QT_TRANSLATE_NOOP(
             "QvelShortcutsWidget", "Select an action in the table to edit its hotkeys.")));
     m_form.actionDescriptionLabel->show();
+    if (holdsFocus(m_form.newHotkeysGroupBox)) // the table would select its first row
+        m_form.searchLineEdit->setFocus(Qt::OtherFocusReason);
     m_form.newHotkeysGroupBox->hide();
 }
 
@@ -121,6 +124,7 @@ void ActionSelectionPanel::clearSelection()
     m_currentAction = {};
     if (QItemSelectionModel *selection = m_form.keyActionsTreeView->selectionModel())
         selection->clear();
+    showRow({}); // a model that was reset has left nothing to clear
 }
 
 void ActionSelectionPanel::resetSelectedActionFields()
@@ -286,6 +290,7 @@ void ActionSelectionPanel::hideAlreadyAssignedControls()
     m_form.removeShortcutButton->hide();
     m_form.removeShortcutButton->setEnabled(false);
     m_form.hotkeyListSeparatorLine->hide();
+    m_form.shortcutLineEdit->setAccessibleDescription(QString());
 }
 
 void ActionSelectionPanel::showAlreadyAssignedControls()
@@ -296,6 +301,10 @@ void ActionSelectionPanel::showAlreadyAssignedControls()
     m_form.removeShortcutButton->setEnabled(true);
     const QVBoxLayout *layout = rowLayout();
     m_form.hotkeyListSeparatorLine->setVisible(layout != nullptr && layout->count() >= 2);
+    // The focus is in the field, and labels beside it are not read out by themselves.
+    m_form.shortcutLineEdit->setAccessibleDescription(m_form.alreadyAssignedLabel->text()
+                                                      + QLatin1Char(' ')
+                                                      + m_form.assignedToLabel->text());
 }
 
 void ActionSelectionPanel::hideReassignControls()

@@ -11,6 +11,7 @@ class QLabel;
 class QModelIndex;
 class QSortFilterProxyModel;
 class QVBoxLayout;
+class QWidget;
 
 namespace CUI {
 
@@ -93,6 +94,11 @@ private:
     void dropSeparatorWithoutRows();
     void removeRow(const QString &shortcut);
     void undoRow(const QString &shortcut);
+    void chainRows();
+    QvelAssignedShortcutListItem *rowOf(const QString &shortcut) const;
+    void focusRow(const QString &shortcut);
+    void takeFocusFrom(const QWidget *widget);
+    static bool holdsFocus(const QWidget *widget);
     bool rowsAgreeWithStore() const;
     QStringList currentShortcuts() const;
     QVBoxLayout *rowLayout() const;

@@ -15,6 +15,8 @@
 #include <QSet>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace CUI {
 
 namespace {
@@ -57,6 +59,7 @@ QStringList ActionSelectionPanel::currentShortcuts() const
 void ActionSelectionPanel::clearAssignedHotkeyGroupBox()
 {
     QWidget *list = m_form.assignedHotkeysWidget;
+    takeFocusFrom(list);
     delete list->layout();
     for (QWidget *child : list->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
         discard(child);
@@ -93,6 +96,7 @@ void ActionSelectionPanel::addActionShortcutToScrollArea(const ActionIdentifier 
     removeActionShortcutFromScrollArea(shortcut);
     layout->insertWidget(0, row);
     row->show();
+    chainRows();
     m_form.assignedHotkeysScrollArea->updateGeometry();
 }
 
@@ -122,6 +126,7 @@ void ActionSelectionPanel::addReassignActionShortcutToScrollArea(const QString &
     removeActionShortcutFromScrollArea(shortcut);
     layout->insertWidget(layout->count() - 1, row);
     row->show();
+    chainRows();
 }
 
 void ActionSelectionPanel::removeActionShortcutFromScrollArea(const QString &shortcut)
@@ -130,10 +135,54 @@ void ActionSelectionPanel::removeActionShortcutFromScrollArea(const QString &sho
     for (QvelAssignedShortcutListItem *row : rows()) {
         // A row that has no place yet is the one that is being added.
         if (row->shortcut() == shortcut && layout->indexOf(row) >= 0) {
+            takeFocusFrom(row);
             layout->removeWidget(row);
             discard(row);
         }
     }
+}
+
+// A new widget is the last of its window in the tab order.
+void ActionSelectionPanel::chainRows()
+{
+    const QVBoxLayout *layout = rowLayout();
+    QWidget *previous = m_form.assignedHotkeysScrollArea;
+    for (int i = 0; i < layout->count(); ++i) {
+        const auto *row = qobject_cast<QvelAssignedShortcutListItem *>(layout->itemAt(i)->widget());
+        if (row != nullptr) {
+            QWidget::setTabOrder(previous, row->button());
+            previous = row->button();
+        }
+    }
+}
+
+QvelAssignedShortcutListItem *ActionSelectionPanel::rowOf(const QString &shortcut) const
+{
+    const auto all = rows();
+    const auto found = std::find_if(all.begin(), all.end(), [&shortcut](const auto *row) {
+        return row->shortcut() == shortcut;
+    });
+    return found != all.end() ? *found : nullptr;
+}
+
+void ActionSelectionPanel::focusRow(const QString &shortcut)
+{
+    if (const QvelAssignedShortcutListItem *row = rowOf(shortcut))
+        row->button()->setFocus(Qt::OtherFocusReason);
+}
+
+// By itself the focus would go on to whatever comes next, and the next key would remove another
+// hotkey or choose another set.
+void ActionSelectionPanel::takeFocusFrom(const QWidget *widget)
+{
+    if (holdsFocus(widget))
+        m_form.assignedHotkeysScrollArea->setFocus(Qt::OtherFocusReason);
+}
+
+bool ActionSelectionPanel::holdsFocus(const QWidget *widget)
+{
+    const QWidget *focused = widget->window()->focusWidget();
+    return focused != nullptr && (focused == widget || widget->isAncestorOf(focused));
 }
 
 void ActionSelectionPanel::removeRow(const QString &shortcut)
@@ -142,9 +191,13 @@ void ActionSelectionPanel::removeRow(const QString &shortcut)
     if (action == nullptr)
         return;
     const ActionIdentifier id = action->identifier();
+    const QvelAssignedShortcutListItem *row = rowOf(shortcut);
+    const bool hadFocus = row != nullptr && holdsFocus(row);
     m_manager->unassignShortcut(id, shortcut, action->name());
     addReassignActionShortcutToScrollArea(shortcut);
     m_form.shortcutLineEdit->clear();
+    if (hadFocus)
+        focusRow(shortcut);
 }
 
 void ActionSelectionPanel::undoRow(const QString &shortcut)
@@ -157,8 +210,12 @@ void ActionSelectionPanel::undoRow(const QString &shortcut)
         return;
     }
     const ActionIdentifier id = action->identifier();
+    const QvelAssignedShortcutListItem *row = rowOf(shortcut);
+    const bool hadFocus = row != nullptr && holdsFocus(row);
     m_manager->assignShortcut(id, shortcut, action->name());
     m_form.shortcutLineEdit->clear();
+    if (hadFocus)
+        focusRow(shortcut);
 }
 
 void ActionSelectionPanel::followStep(const ShortcutTransformation &step)
@@ -170,8 +227,11 @@ void ActionSelectionPanel::followStep(const ShortcutTransformation &step)
             addActionShortcutToScrollArea(m_currentAction, step.shortcut());
         else
             removeActionShortcutFromScrollArea(step.shortcut());
-        updateAssignedShortcutFields();
     }
+    // Another action may have got, or lost, the hotkey that stands in the field.
+    if (step.actionId() == m_currentAction
+        || step.shortcut().compare(capturedShortcut(), Qt::CaseInsensitive) == 0)
+        updateAssignedShortcutFields();
     // A step for another action can have taken a hotkey from this one, and a step may have had no
     // effect at all.
     if (!rowsAgreeWithStore())

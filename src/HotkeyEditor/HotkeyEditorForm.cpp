@@ -58,6 +58,7 @@ QPushButton *makeDisabledButton(const char *name)
 {
     auto *button = named(new QPushButton, name);
     button->setEnabled(false);
+    button->setAutoDefault(false); // Return is for the buttons of the host's dialog
     return button;
 }
 

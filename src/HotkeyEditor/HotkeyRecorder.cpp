@@ -91,6 +91,11 @@ int keypadModifierOf(int virtualKey)
     return isOnKeypad ? int{Qt::KeypadModifier} : 0;
 }
 
+bool leadsOut(int key, int modifiers)
+{
+    return key == Qt::Key_Tab && (modifiers & ~int{Qt::ShiftModifier}) == Qt::ControlModifier;
+}
+
 bool isHotkey(int key, int modifiers)
 {
     switch (key) {
@@ -103,7 +108,7 @@ bool isHotkey(int key, int modifiers)
     case Qt::Key_ScrollLock:
         return false;
     case Qt::Key_Tab:
-        return (modifiers & ~int{Qt::ShiftModifier}) != Qt::ControlModifier;
+        return !leadsOut(key, modifiers);
     default:
         return key <= Qt::Key_F24 && modifierOf(key) == 0;
     }
@@ -121,6 +126,16 @@ Capture capture(const QKeyEvent &event)
     if (isHotkey(key, result.modifiers))
         result.combination = key | result.modifiers | keypadModifierOf(virtualKey);
     return result;
+}
+
+WayOut wayOut(const QKeyEvent &event)
+{
+    const int virtualKey = NativeKeys::virtualKeyOf(event);
+    const int modifiers = heldModifiers(event, virtualKey);
+    if (!leadsOut(keyOf(event, virtualKey), modifiers))
+        return WayOut::None;
+    const bool isBack = event.key() == Qt::Key_Backtab || (modifiers & Qt::ShiftModifier) != 0;
+    return isBack ? WayOut::Previous : WayOut::Next;
 }
 
 QString text(const Capture &capture)

@@ -21,6 +21,12 @@ struct Capture {
 /// Reads the key press and writes it to the debug log.
 Capture capture(const QKeyEvent &event);
 
+/// Whether a key press leads out of a field that takes all other keys.
+enum class WayOut { None, Next, Previous };
+
+/// Ctrl+Tab leads to the next widget, with Shift to the one before. Neither can be a hotkey.
+WayOut wayOut(const QKeyEvent &event);
+
 /// What a field shows for it, in the user's language: the hotkey, or without one the modifiers.
 QString text(const Capture &capture);
 

@@ -1,10 +1,9 @@
 #include "HotkeySetCommands.h"
 
-#include "EditorText.h"
 #include "HotkeySetDialogs.h"
+#include "HotkeySetFile.h"
 #include "IPathManager.h"
-#include "QvelCustomizeDialogHelper.h"
-#include "QvelMessageLog.h"
+#include "LastLogLine.h"
 #include "QvelPresetComboBox.h"
 #include "QvelShortcutManager.h"
 
@@ -12,7 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QScopedValueRollback>
+#include <QPointer>
 #include <QSignalBlocker>
 
 namespace CUI {
@@ -31,36 +30,28 @@ void recordCurrentSet(const QString &path)
         paths->setCurrentConfigurationFile(ConfigType::HotkeySet, path);
 }
 
-// A set that its file or the file system protects.
-bool isLockedFile(const QString &path)
+// Named as the list names it: shipped sets by the translations of the text in their files.
+Preset presetOf(const QString &path, bool locked, const QString &name)
 {
-    if (!QFile::exists(path))
-        return false;
-    bool locked = false;
-    QString name;
-    return Preset::isFileReadOnly(path)
-           || (QvelShortcutManager::peekPresetMetadata(path, locked, name) && locked);
+    return Preset(path, locked,
+                  name.isEmpty() ? name
+                                 : QCoreApplication::translate("CUI", name.toUtf8().constData()));
 }
 
-/// Remembers the last line that is logged while it lives.
-class LastLogLine
+// True for a file that the list of sets has, or will have once it is there and valid.
+bool isPlaceOfSets(const QString &path)
 {
-public:
-    LastLogLine()
-        : m_connection(QObject::connect(&QvelMessageLog::getInstance(),
-                                        &QvelMessageLog::messageLogged,
-                                        [this](const QString &line) { m_line = line; }))
-    {
+    const IPathManager *paths = IPathManager::get();
+    const QFileInfo file(path);
+    if (paths == nullptr || file.suffix().compare(QLatin1String("hsx"), Qt::CaseInsensitive) != 0)
+        return false;
+    for (const QString &directory :
+         {paths->getDefaultPresetDirectory(), paths->getUserPresetDirectory()}) {
+        if (!directory.isEmpty() && file.dir() == QDir(directory))
+            return true;
     }
-    ~LastLogLine() { QObject::disconnect(m_connection); }
-    LastLogLine(const LastLogLine &) = delete;
-    LastLogLine &operator=(const LastLogLine &) = delete;
-    QString text() const { return m_line; }
-
-private:
-    QString m_line;
-    QMetaObject::Connection m_connection;
-};
+    return false;
+}
 
 } // namespace
 
@@ -91,7 +82,7 @@ Preset HotkeySetCommands::describe(const QString &filePath) const
     bool locked = false;
     QString name;
     QvelShortcutManager::peekPresetMetadata(path, locked, name);
-    return Preset(path, locked, name);
+    return presetOf(path, locked, name);
 }
 
 void HotkeySetCommands::setCurrentPreset(const Preset &preset)
@@ -99,8 +90,37 @@ void HotkeySetCommands::setCurrentPreset(const Preset &preset)
     m_currentPreset = preset;
     const QSignalBlocker blocker(m_comboBox);
     if (preset.isValid())
-        m_comboBox->addNotInPathPreset(preset, false);
+        enlist(preset);
     m_comboBox->setCurrentPreset(preset);
+    m_comboBox->update();
+}
+
+void HotkeySetCommands::enlist(const Preset &preset)
+{
+    if (m_comboBox->containsPreset(preset))
+        return;
+    m_comboBox->updatePresets(ConfigType::HotkeySet, false); // its file may have come meanwhile
+    if (m_comboBox->containsPreset(preset))
+        return;
+    if (!isPlaceOfSets(preset.path())) {
+        m_comboBox->addNotInPathPreset(preset, false);
+        return;
+    }
+    // Remembered, it would be listed twice once its file is found. So it only stays while it is the
+    // current one.
+    m_comboBox->addItem(preset.name(), QVariant::fromValue(preset));
+    m_comboBox->setCurrentPreset(preset);
+    m_comboBox->updatePresets(ConfigType::HotkeySet, true);
+}
+
+void HotkeySetCommands::refreshList()
+{
+    const QSignalBlocker blocker(m_comboBox);
+    m_comboBox->setCurrentPreset(m_currentPreset);
+    m_comboBox->updatePresets(ConfigType::HotkeySet, true);
+    const int index = m_comboBox->setCurrentPreset(m_currentPreset); // none, if there was none
+    if (index >= 0)
+        m_currentPreset = m_comboBox->presetFromIndex(index);
     m_comboBox->update();
 }
 
@@ -142,14 +162,26 @@ void HotkeySetCommands::choosePreset(int index)
     const Preset chosen = m_comboBox->presetFromIndex(index);
     if (m_isChoosing || !chosen.isValid() || chosen == m_currentPreset)
         return;
-    // The questions below change the list and its selection themselves.
-    const QScopedValueRollback<bool> guard(m_isChoosing, true);
+    // The questions change the list and its selection themselves.
+    m_isChoosing = true;
+    const QPointer<HotkeySetCommands> self(this);
+    loadChosen(chosen);
+    if (!self.isNull())
+        m_isChoosing = false;
+}
+
+void HotkeySetCommands::loadChosen(const Preset &chosen)
+{
+    const QPointer<HotkeySetCommands> self(this);
     if (!maybeSaveChanges()) {
-        selectSilently(m_currentPreset);
+        if (!self.isNull())
+            selectSilently(m_currentPreset);
         return;
     }
     if (!QFile::exists(chosen.path())) {
         HotkeySetDialogs::popupFileNotFoundInfoDlg(m_editor, chosen.name());
+        if (self.isNull())
+            return;
         const QSignalBlocker blocker(m_comboBox);
         m_comboBox->removePreset(chosen);
         m_comboBox->setCurrentPreset(m_currentPreset);
@@ -159,11 +191,19 @@ void HotkeySetCommands::choosePreset(int index)
     bool locked = false;
     QString name;
     if (!QvelShortcutManager::peekPresetMetadata(chosen.path(), locked, name)) {
-        HotkeySetDialogs::showLoadFailure(m_editor, chosen.path(), lastLine.text());
         selectSilently(m_currentPreset);
+        HotkeySetDialogs::showLoadFailure(m_editor, chosen.path(), lastLine.text());
         return;
     }
     m_manager->loadShortcutConfiguration(chosen.path());
+}
+
+void HotkeySetCommands::leaveComboBox()
+{
+    if (!m_isChoosing)
+        return;
+    m_comboBox->setParent(nullptr);
+    m_comboBox->deleteLater();
 }
 
 void HotkeySetCommands::followLoadedConfiguration(const QString &path)
@@ -180,16 +220,14 @@ bool HotkeySetCommands::loadPresetTransformations(const QString &path, Preset &p
     if (!QvelShortcutManager::peekPresetMetadata(path, locked, name)
         || !m_manager->loadShortcutTransforms(path))
         return false;
-    preset = Preset(path, locked, name);
+    preset = presetOf(path, locked, name);
     return true;
 }
 
 void HotkeySetCommands::loadFromFile()
 {
-    if (!maybeSaveChanges())
-        return;
     const QString path = HotkeySetDialogs::askLoadSetPath(m_editor);
-    if (path.isEmpty())
+    if (path.isEmpty() || !maybeSaveChanges())
         return;
     const LastLogLine lastLine;
     Preset preset;
@@ -207,6 +245,13 @@ void HotkeySetCommands::adoptLoadedSet(const Preset &preset)
     recordCurrentSet(preset.path());
     Q_EMIT setReplaced();
     unmarkModified(true);
+}
+
+// What the store has now belongs to no set.
+void HotkeySetCommands::leaveSet()
+{
+    setCurrentPreset(Preset());
+    recordCurrentSet(QString());
 }
 
 // Asking before changes go
@@ -259,6 +304,7 @@ bool HotkeySetCommands::maybeSaveChanges()
 {
     if (!m_modified)
         return true;
+    const QPointer<HotkeySetCommands> self(this);
     bool result = false;
     Preset replacement;
     if (fileNotFoundDoUserPrompt(m_currentPreset, &result, &replacement))
@@ -270,10 +316,11 @@ bool HotkeySetCommands::maybeSaveChanges()
         return false;
     case QMessageBox::Discard:
         discardChanges();
-        return true;
+        break;
     default:
-        return true;
+        break;
     }
+    return !self.isNull();
 }
 
 bool HotkeySetCommands::maybeDiscardChanges()
@@ -284,8 +331,9 @@ bool HotkeySetCommands::maybeDiscardChanges()
         return result;
     if (HotkeySetDialogs::popupResetChangesDlg(m_editor) != QMessageBox::Discard)
         return false;
+    const QPointer<HotkeySetCommands> self(this);
     discardChanges();
-    return true;
+    return !self.isNull();
 }
 
 void HotkeySetCommands::discardChanges()
@@ -311,8 +359,10 @@ void HotkeySetCommands::discardChanges()
 
 bool HotkeySetCommands::saveCurrent()
 {
+    const QPointer<HotkeySetCommands> self(this);
     const bool saved = saveChanges(m_currentPreset);
-    selectSilently(m_currentPreset);
+    if (!self.isNull())
+        selectSilently(m_currentPreset);
     return saved;
 }
 
@@ -338,7 +388,7 @@ bool HotkeySetCommands::saveChanges(Preset &preset)
     bool locked = false;
     QString name;
     if (QvelShortcutManager::peekPresetMetadata(path, locked, name))
-        preset = Preset(path, locked, name);
+        preset = presetOf(path, locked, name);
     selectSilently(preset);
     {
         const QSignalBlocker blocker(m_comboBox);
@@ -374,104 +424,17 @@ bool HotkeySetCommands::saveAsChanges(Preset &preset)
     return true;
 }
 
-void HotkeySetCommands::openFileLocation() const
+// A set that its file or the file system protects.
+bool HotkeySetCommands::isLockedFile(const QString &path)
 {
-    QvelCustomizeDialogHelper::showFileInFolder(m_currentPreset.path());
-}
-
-// Importing
-
-void HotkeySetCommands::selectFileForConversion()
-{
-    if (!maybeSaveChanges())
-        return;
-    const QString path = HotkeySetDialogs::askLegacyPath(m_editor);
-    if (!path.isEmpty())
-        convertLegacyShortcuts(path);
-}
-
-void HotkeySetCommands::convertLegacyShortcuts(const QString &path)
-{
-    const QFileInfo input(path);
-    const IPathManager *paths = IPathManager::get();
-    const QString directory = paths != nullptr ? paths->getUserPresetDirectory() : QString();
-    const QString fileName = input.completeBaseName() + QLatin1String(".hsx");
-    const QString target = directory + QLatin1Char('/') + fileName;
-    if (isLockedFile(target)) {
-        HotkeySetDialogs::showLockedWarning(m_editor);
-        return;
-    }
-    if (QFile::exists(target) && !HotkeySetDialogs::confirmReplacement(m_editor, fileName))
-        return;
-    Preset preset;
-    if (!QvelShortcutManager::convertLegacyShortcuts(path, target)
-        || !loadPresetTransformations(target, preset)) {
-        QvelMessageLog::getInstance().logErrorMessage(
-                QStringLiteral("Conversion of '%1' failed.").arg(path));
-        HotkeySetDialogs::showConversionFailure(m_editor, input.fileName());
-        Q_EMIT legacyHotkeySetConverted(false);
-        return;
-    }
-    adoptLoadedSet(preset);
-    HotkeySetDialogs::showConverted(m_editor, input.fileName(), fileName);
-    Q_EMIT legacyHotkeySetConverted(true);
-}
-
-// Single files
-
-void HotkeySetCommands::validateShortcutFile()
-{
-    const QString path = HotkeySetDialogs::askOpenPath(
-            m_editor,
-            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Validate Shortcut File")),
-            HotkeySetDialogs::shortcutFileFilter(), QCoreApplication::applicationDirPath());
-    if (path.isEmpty())
-        return;
-    HotkeySetDialogs::showValidation(
-            m_editor,
-            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Shortcut File Validation")),
-            QvelShortcutManager::validateShortcuts(path));
-}
-
-void HotkeySetCommands::validateShortcutTransformationFile()
-{
-    const QString path = HotkeySetDialogs::askOpenPath(
-            m_editor,
-            editorText(
-                    QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Validate Shortcut Transform File")),
-            HotkeySetDialogs::hotkeySetFilter(), QCoreApplication::applicationDirPath());
-    if (path.isEmpty())
-        return;
-    HotkeySetDialogs::showValidation(
-            m_editor,
-            editorText(
-                    QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Shortcut Transform File Validation")),
-            QvelShortcutManager::validateShortcutsTransforms(path));
-}
-
-void HotkeySetCommands::saveShortcuts()
-{
-    const QString path = HotkeySetDialogs::askSavePath(
-            m_editor, editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save Shortcuts")),
-            HotkeySetDialogs::shortcutFileFilter(), QStringLiteral("hsxb"));
-    if (!path.isEmpty())
-        m_manager->saveShortcuts(path);
-}
-
-void HotkeySetCommands::loadShortcuts()
-{
-    if (!maybeSaveChanges())
-        return;
-    const QString path = HotkeySetDialogs::askOpenPath(
-            m_editor, editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Load Shortcuts")),
-            HotkeySetDialogs::shortcutFileFilter(), QString());
-    if (path.isEmpty())
-        return;
-    const LastLogLine lastLine;
-    if (!m_manager->loadShortcuts(path))
-        HotkeySetDialogs::showLoadFailure(m_editor, path, lastLine.text());
-    Q_EMIT rowsInvalidated();
-    Q_EMIT selectedActionInvalidated();
+    if (Preset::isFileReadOnly(path))
+        return true;
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return false;
+    const auto metadata =
+            HotkeySetFile::readMetadata(file); // of a file of any kind, without a word
+    return metadata && metadata->locked;
 }
 
 } // namespace CUI

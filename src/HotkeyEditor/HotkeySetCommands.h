@@ -13,7 +13,8 @@ class QvelPresetComboBox;
 class QvelShortcutManager;
 
 /// The commands of the hotkey editor that act on whole sets, with their questions. Keeps which set
-/// is loaded and whether it has unsaved changes.
+/// is loaded and whether it has unsaved changes. May be deleted, with the editor, while one of its
+/// dialogs is open: the command ends then, and one that asks a question answers false.
 class HotkeySetCommands : public QObject
 {
     Q_OBJECT
@@ -38,6 +39,11 @@ public:
     void choosePreset(int index);
     /// The store has loaded a configuration.
     void followLoadedConfiguration(const QString &path);
+    /// Lists the sets anew; what is loaded stays selected, or nothing if no set is.
+    void refreshList();
+    /// The editor is going. A combo box whose signal has led to a question that is still open is
+    /// needed by the toolkit until the question has returned: it then goes later than the editor.
+    void leaveComboBox();
 
     bool maybeSaveChanges();
     bool maybeDiscardChanges();
@@ -70,10 +76,16 @@ private:
     bool saveChanges(Preset &preset);
     bool saveAsChanges(Preset &preset);
     void convertLegacyShortcuts(const QString &path);
+    void failConversion(const QString &path);
+    void loadConverted(const QString &path);
+    void loadChosen(const Preset &chosen);
     void adoptLoadedSet(const Preset &preset);
+    void leaveSet();
     void setCurrentPreset(const Preset &preset);
     void selectSilently(const Preset &preset);
+    void enlist(const Preset &preset);
     Preset describe(const QString &path) const;
+    static bool isLockedFile(const QString &path);
 
     QWidget *m_editor;
     QvelPresetComboBox *m_comboBox;

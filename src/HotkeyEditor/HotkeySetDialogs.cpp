@@ -2,12 +2,16 @@
 
 #include "EditorText.h"
 #include "IPathManager.h"
+#include "UserPresetDirectory.h"
 
 #include <QAbstractButton>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QUrl>
@@ -16,46 +20,62 @@ namespace CUI::HotkeySetDialogs {
 
 namespace {
 
-QString userPresetDirectory()
-{
-    const IPathManager *paths = IPathManager::get();
-    return paths != nullptr ? paths->getUserPresetDirectory() : QString();
-}
-
 QString logFilePath()
 {
     const IPathManager *paths = IPathManager::get();
     return paths != nullptr ? paths->getLogFilePath() : QString();
 }
 
-// A box whose texts are never taken for markup.
-class PlainMessageBox : public QMessageBox
+// A message box whose texts are never taken for markup. Its parent may go, and take it along, while
+// it is open.
+class PlainMessageBox
 {
 public:
-    PlainMessageBox(Icon icon, const char *title, const QString &text, StandardButtons buttons,
-                    QWidget *parent)
-        : QMessageBox(icon, editorText(title), text, buttons, parent)
+    PlainMessageBox(QMessageBox::Icon icon, const char *title, const QString &text,
+                    QMessageBox::StandardButtons buttons, QWidget *parent)
+        : m_box(new QMessageBox(icon, editorText(title), text, buttons, parent))
     {
-        setTextFormat(Qt::PlainText);
+        m_box->setTextFormat(Qt::PlainText);
+    }
+    ~PlainMessageBox() { delete m_box.data(); }
+    PlainMessageBox(const PlainMessageBox &) = delete;
+    PlainMessageBox &operator=(const PlainMessageBox &) = delete;
+
+    // QMessageBox::NoButton when the box has gone with its parent.
+    QMessageBox::StandardButton ask(QMessageBox::StandardButton defaultOne)
+    {
+        m_box->setDefaultButton(defaultOne);
+        return static_cast<QMessageBox::StandardButton>(m_box->exec());
     }
 
-    StandardButton ask(StandardButton defaultOne)
+    void tell() { m_box->exec(); }
+
+    void relabel(QMessageBox::StandardButton which, const QString &text)
     {
-        setDefaultButton(defaultOne);
-        return static_cast<StandardButton>(exec());
+        m_box->button(which)->setText(text);
     }
 
-    void relabel(StandardButton which, const QString &text) { button(which)->setText(text); }
+    void explain(const QString &text)
+    {
+        m_box->setInformativeText(text);
+        // The text format of the box does not reach this text.
+        const auto labels = m_box->findChildren<QLabel *>();
+        for (QLabel *label : labels)
+            label->setTextFormat(Qt::PlainText);
+    }
 
     // Adds a button that opens a local file or folder with the desktop's program for it.
     void offerToOpen(const char *label, const QString &path)
     {
         if (path.isEmpty())
             return;
-        const QPushButton *opener = addButton(editorText(label), ActionRole);
-        connect(opener, &QPushButton::clicked, this,
-                [path] { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
+        const QPushButton *opener = m_box->addButton(editorText(label), QMessageBox::ActionRole);
+        QObject::connect(opener, &QPushButton::clicked, m_box.data(),
+                         [path] { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
     }
+
+private:
+    QPointer<QMessageBox> m_box;
 };
 
 QString resetLabel()
@@ -63,9 +83,20 @@ QString resetLabel()
     return editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Reset"));
 }
 
-QString chosenFile(QFileDialog &dialog)
+// Runs and deletes the dialog, whose parent may go, and take it along, while it is open.
+QString chosenFile(QFileDialog *dialog)
 {
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    const QPointer<QFileDialog> alive(dialog);
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
+    const QString path =
+            isAccepted && !alive.isNull() ? alive->selectedFiles().value(0) : QString();
+    delete alive.data();
+    return path;
+}
+
+bool canBeOpened(const QString &path)
+{
+    return QFileInfo(path).isFile() && QFile(path).open(QIODevice::ReadOnly);
 }
 
 } // namespace
@@ -116,7 +147,7 @@ void popupFileNotFoundInfoDlg(QWidget *parent, const QString &setName)
                                          "missing set will be removed from the list.\n"))
                     .arg(setName),
             QMessageBox::Ok, parent);
-    box.exec();
+    box.tell();
 }
 
 bool confirmReplacement(QWidget *parent, const QString &fileName)
@@ -138,7 +169,7 @@ void showLockedWarning(QWidget *parent)
                         editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
                                                      "Cannot overwrite a locked preset file!")),
                         QMessageBox::Ok, parent);
-    box.exec();
+    box.tell();
 }
 
 void showSaveFailure(QWidget *parent, const QString &path)
@@ -151,7 +182,7 @@ void showSaveFailure(QWidget *parent, const QString &path)
                     .arg(QDir::toNativeSeparators(path)),
             QMessageBox::Ok, parent);
     box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open Log File"), logFilePath());
-    box.exec();
+    box.tell();
 }
 
 void showLoadFailure(QWidget *parent, const QString &path, const QString &reason)
@@ -163,9 +194,11 @@ void showLoadFailure(QWidget *parent, const QString &path, const QString &reason
                                                      "details."))
                                 .arg(QFileInfo(path).fileName()),
                         QMessageBox::Ok, parent);
-    box.setInformativeText(reason);
+    box.explain(canBeOpened(path) ? reason
+                                  : editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
+                                                                 "The file cannot be opened.")));
     box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open Log File"), logFilePath());
-    box.exec();
+    box.tell();
 }
 
 void showConverted(QWidget *parent, const QString &inputName, const QString &outputName)
@@ -180,7 +213,7 @@ void showConverted(QWidget *parent, const QString &inputName, const QString &out
             QMessageBox::Ok, parent);
     box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open File Location"),
                     userPresetDirectory());
-    box.exec();
+    box.tell();
 }
 
 void showConversionFailure(QWidget *parent, const QString &inputName)
@@ -194,20 +227,20 @@ void showConversionFailure(QWidget *parent, const QString &inputName)
                     .arg(inputName),
             QMessageBox::Ok, parent);
     box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open Log File"), logFilePath());
-    box.exec();
+    box.tell();
 }
 
-void showValidation(QWidget *parent, const QString &title, bool valid)
+void showValidation(QWidget *parent, const char *title, bool valid)
 {
-    QMessageBox box(valid ? QMessageBox::Information : QMessageBox::Warning, title,
-                    valid ? editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
-                                                         "Xml File valid!! According to schema "
-                                                         "definition."))
-                          : editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
-                                                         "Xml File invalid!! According to schema "
-                                                         "definition.")),
-                    QMessageBox::Ok, parent);
-    box.exec();
+    PlainMessageBox box(valid ? QMessageBox::Information : QMessageBox::Warning, title,
+                        valid ? editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
+                                                             "Xml File valid!! According to schema "
+                                                             "definition."))
+                              : editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
+                                                             "Xml File invalid!! According to "
+                                                             "schema definition.")),
+                        QMessageBox::Ok, parent);
+    box.tell();
 }
 
 QString hotkeySetFilter()
@@ -224,11 +257,11 @@ QString shortcutFileFilter()
 
 QString askSaveSetPath(QWidget *parent)
 {
-    QFileDialog dialog(parent,
-                       editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save Hotkey Set As")),
-                       userPresetDirectory(), hotkeySetFilter());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("hsx"));
+    auto *dialog = new QFileDialog(
+            parent, editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save Hotkey Set As")),
+            userPresetDirectory(), hotkeySetFilter());
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("hsx"));
     return chosenFile(dialog);
 }
 
@@ -241,31 +274,31 @@ QString askLoadSetPath(QWidget *parent)
 
 QString askLegacyPath(QWidget *parent)
 {
-    QFileDialog dialog(
+    auto *dialog = new QFileDialog(
             parent, editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Convert Legacy Hotkeys")),
             QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
             editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Keyboard Shortcuts (*.%1)"))
                     .arg(QLatin1String("kbdx")));
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setLabelText(QFileDialog::Accept,
-                        editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Import")));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setLabelText(QFileDialog::Accept,
+                         editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Import")));
     return chosenFile(dialog);
 }
 
 QString askOpenPath(QWidget *parent, const QString &title, const QString &filter,
                     const QString &directory)
 {
-    QFileDialog dialog(parent, title, directory, filter);
-    dialog.setFileMode(QFileDialog::ExistingFile);
+    auto *dialog = new QFileDialog(parent, title, directory, filter);
+    dialog->setFileMode(QFileDialog::ExistingFile);
     return chosenFile(dialog);
 }
 
 QString askSavePath(QWidget *parent, const QString &title, const QString &filter,
                     const QString &suffix)
 {
-    QFileDialog dialog(parent, title, QString(), filter);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(suffix);
+    auto *dialog = new QFileDialog(parent, title, QString(), filter);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(suffix);
     return chosenFile(dialog);
 }
 

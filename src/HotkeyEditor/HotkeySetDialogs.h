@@ -8,6 +8,9 @@ class QWidget;
 namespace CUI {
 
 /// The questions and messages of the hotkey set commands. Names from files are shown as plain text.
+///
+/// @p parent may be deleted while a dialog is open: the answer is then QMessageBox::NoButton, false
+/// or an empty path.
 namespace HotkeySetDialogs {
 
 QMessageBox::StandardButton popupSaveChangesDlg(QWidget *parent);
@@ -20,12 +23,14 @@ bool confirmReplacement(QWidget *parent, const QString &fileName);
 void showLockedWarning(QWidget *parent);
 /// Offers to open the log file when there is one.
 void showSaveFailure(QWidget *parent, const QString &path);
-/// The same; @p reason comes from the log and may be empty.
+/// The same; @p reason comes from the log and may be empty. That the file cannot be opened, which
+/// the log does not tell, is said in its place.
 void showLoadFailure(QWidget *parent, const QString &path, const QString &reason);
 /// Offers to open the folder of the user's sets.
 void showConverted(QWidget *parent, const QString &inputName, const QString &outputName);
 void showConversionFailure(QWidget *parent, const QString &inputName);
-void showValidation(QWidget *parent, const QString &title, bool valid);
+/// @p title as it stands in the source.
+void showValidation(QWidget *parent, const char *title, bool valid);
 
 /// \name File dialogs
 /// Each returns the chosen path, or an empty text.

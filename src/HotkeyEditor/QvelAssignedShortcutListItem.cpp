@@ -19,6 +19,7 @@ QvelAssignedShortcutListItem::QvelAssignedShortcutListItem(const QString &shortc
     m_button->setObjectName(assigned ? QStringLiteral("HotkeyEditor_removeAssignedButton")
                                      : QStringLiteral("HotkeyEditor_undoAssignedButton"));
     m_button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_button->setAutoDefault(false); // Return is for the buttons of the host's dialog
     m_label->setTextFormat(assigned ? Qt::PlainText : Qt::RichText);
 
     auto *layout = new QHBoxLayout(this);

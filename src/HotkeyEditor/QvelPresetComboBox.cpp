@@ -118,6 +118,11 @@ public:
     QIcon lockIcon = QApplication::style()->standardIcon(QStyle::SP_VistaShield);
     QList<Preset> notInPathPresets;
 
+    /// What stands behind the name of the current set; empty without unsaved changes.
+    QString marker() const
+    {
+        return modified ? QvelPresetComboBox::tr("[Unsaved Changes*]") : QString();
+    }
     void addItem(const QvelPresetComboBox &box, const Preset &preset) const
     {
         if (auto *items = qobject_cast<QStandardItemModel *>(box.model()))
@@ -222,7 +227,15 @@ void QvelPresetComboBox::setUserModifiedColor(const QColor &color)
 void QvelPresetComboBox::setCurPresetModified(bool modified)
 {
     d->modified = modified;
+    setAccessibleDescription(d->marker()); // what is only painted is read out to nobody
     update();
+}
+
+void QvelPresetComboBox::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange && d->modified)
+        setAccessibleDescription(d->marker());
+    QComboBox::changeEvent(event);
 }
 
 void QvelPresetComboBox::paintEvent(QPaintEvent *)
@@ -235,7 +248,7 @@ void QvelPresetComboBox::paintEvent(QPaintEvent *)
     if (isEditable() || (option.currentText.isEmpty() && !d->modified))
         return;
 
-    const QString marker = d->modified ? tr("[Unsaved Changes*]") : QString();
+    const QString marker = d->marker();
     const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option,
                                                 QStyle::SC_ComboBoxEditField, this)
                                 .adjusted(1, 0, -1, 0);

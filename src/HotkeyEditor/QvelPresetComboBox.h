@@ -81,13 +81,16 @@ public:
     void setUserModifiedColor(const QColor &color);
 
 public Q_SLOTS:
-    /// Shows or hides the marker of unsaved changes. No signal.
+    /// Shows or hides the marker of unsaved changes, and makes it the accessible description or
+    /// empties that. No signal.
     void setCurPresetModified(bool modified);
 
 protected:
     /// Paints the box; unless it is editable, also the icon, the name, shortened in its middle
     /// where it does not fit, and the marker.
     void paintEvent(QPaintEvent *event) override;
+    /// Takes over the marker of another language.
+    void changeEvent(QEvent *event) override;
 
 private:
     class Private;

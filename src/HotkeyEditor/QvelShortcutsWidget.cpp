@@ -22,7 +22,10 @@ QvelShortcutsWidget::QvelShortcutsWidget(QvelActionItemModel *model, QvelShortcu
     d->commands->showStoreState();
 }
 
-QvelShortcutsWidget::~QvelShortcutsWidget() = default;
+QvelShortcutsWidget::~QvelShortcutsWidget()
+{
+    d->commands->leaveComboBox();
+}
 
 // Looks
 
@@ -42,7 +45,7 @@ void QvelShortcutsWidget::setTransformShortcutsColor(const QColor &color)
 void QvelShortcutsWidget::setPresetComboBoxItemIcon(const QIcon &icon)
 {
     d->form.hotkeySetComboBox->setLockIcon(icon);
-    d->form.hotkeySetComboBox->updatePresets(ConfigType::HotkeySet, true);
+    d->commands->refreshList();
 }
 
 void QvelShortcutsWidget::setToolButtonPresetOptionsIcon(const QIcon &icon)
@@ -81,7 +84,10 @@ void QvelShortcutsWidget::reloadActionsList()
     d->saveHeadersSizes();
     d->model->loadActionsToModel();
     d->restoreHeadersSizes();
-    setCurrentAction(selected, false);
+    if (!selected.isEmpty() && d->panel->currentAction() == nullptr)
+        clearSelection(); // it is gone
+    else
+        setCurrentAction(selected, false);
 }
 
 // The selected action

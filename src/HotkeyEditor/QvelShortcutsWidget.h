@@ -23,11 +23,15 @@ class VelAction;
 /// with its hotkeys, the field in which a new one is typed, and its conflict; on top the hotkey set
 /// with the commands that save, load, reset and import sets. Every edit goes to the store, and the
 /// widget shows what the store announces. While a hotkey is being typed, no shortcut of the host
-/// fires.
+/// fires; Ctrl+Tab and Ctrl+Shift+Tab lead out of the field, which takes all other keys. In a
+/// dialog, Return is left to the host's buttons.
 ///
 /// The host places it in a dialog of its own, and calls maybeSaveChanges() before it closes that.
-/// The list of sets follows the directory of the user's sets, which the installed IPathManager
-/// names when the widget is made. Its texts follow a change of the language.
+/// It may be deleted while one of its dialogs is open (only not under the question of a file dialog
+/// itself, whether to replace a file): the call that asked then returns, false where it returns
+/// anything. The list of sets follows the directory of the user's sets that the installed
+/// IPathManager names when the widget is made, also when that appears only later. Its texts follow
+/// a change of the language.
 class CUI_EXPORT QvelShortcutsWidget : public QWidget
 {
     Q_OBJECT
@@ -64,7 +68,8 @@ public:
     void setHotkeyFilter(int index);
     /// Sorts the list by that column, in ascending order.
     void sortActionTreeByColumn(QvelActionItemModel::ActionTreeColumns column);
-    /// Reads the actions of the registry anew. Column widths and the selected action stay.
+    /// Reads the actions of the registry anew. Column widths stay, and so does the selected action
+    /// unless it is gone; then none is selected.
     void reloadActionsList();
     /// @}
 
@@ -94,12 +99,19 @@ public Q_SLOTS:
     /// Asks whether unsaved edits are to be saved or dropped. False when the user cancels or the
     /// set cannot be saved: the caller must stop then. True at once without unsaved edits.
     bool maybeSaveChanges();
-    /// Asks whether unsaved edits are to be dropped. False when the user cancels.
+    /// Asks whether unsaved edits are to be dropped, whether or not there are any. False when the
+    /// user cancels.
+    ///
+    /// When the file of the current set has vanished, this and, with unsaved edits,
+    /// maybeSaveChanges() ask instead whether the hotkeys are to be saved elsewhere or the default
+    /// set is to be loaded. False when the user cancels or they cannot be saved.
     bool maybeDiscardChanges();
     /// Loads the current set from its file, without asking.
     void discardChanges();
-    /// Asks for a keyboard file of an older release, converts it to a set of the user and loads it.
-    /// Emits legacyHotkeySetConverted() unless the user cancels.
+    /// Asks for a keyboard file of an older release, then about unsaved edits and before a set of
+    /// the same name is replaced; converts the file to a set of the user, loads that and makes it
+    /// the current one. Emits legacyHotkeySetConverted() unless the user cancels or the set of that
+    /// name is locked.
     void selectFileForConversion();
     /// Asks for a file and tells whether it is a valid base hotkey file.
     void validateShortcutFile();
@@ -107,11 +119,13 @@ public Q_SLOTS:
     void validateShortcutTransformationFile();
     /// Asks for a place, saves the edits there as a new set and makes it the current one.
     void saveShortcutsTransformation();
-    /// Asks about unsaved edits, then for a hotkey set, and loads it.
+    /// Asks for a hotkey set, then about unsaved edits, and loads it.
     void loadShortcutsTransformation();
-    /// Asks for a place and writes the base hotkeys there.
+    /// Asks for a place and writes the base hotkeys there. The current set stays what it is, and so
+    /// do unsaved edits.
     void saveShortcuts();
-    /// Asks about unsaved edits, then for a base hotkey file, and replaces all hotkeys by it.
+    /// Asks for a base hotkey file, then about unsaved edits, and replaces all hotkeys by it. They
+    /// belong to no set then: none is the current one, and the next save asks for a place.
     void loadShortcuts();
     /// @}
 
@@ -136,7 +150,7 @@ Q_SIGNALS:
     void presetModified(bool modified);
     /// The edits have been saved to a set.
     void modificationsSaved();
-    /// An import has ended.
+    /// An import has ended. @p success tells whether the file was converted.
     void legacyHotkeySetConverted(bool success);
 
 protected:

@@ -1,9 +1,9 @@
 #include "QvelShortcutsWidgetPrivate.h"
 
 #include "EditorText.h"
-#include "IPathManager.h"
 #include "QvelAssignedShortcutsScrollArea.h"
 #include "QvelCustomizeDialogHelper.h"
+#include "UserPresetDirectory.h"
 
 #include <VelUtil.h>
 
@@ -24,6 +24,7 @@
 #include <QStyle>
 #include <QToolButton>
 #include <QTreeView>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
@@ -72,6 +73,7 @@ void QvelShortcutsWidget::Private::build()
     form.build(q);
     form.retranslate(q);
     scaleWidths();
+    watcher = new QFileSystemWatcher(q);
     watchUserPresets();
     setUpPresetComboBox();
     setUpPresetOptionsButton();
@@ -98,13 +100,32 @@ void QvelShortcutsWidget::Private::scaleWidths()
     }
 }
 
+// Until the directory of the user's sets is there, the nearest one above it is watched.
 void QvelShortcutsWidget::Private::watchUserPresets()
 {
-    watcher = new QFileSystemWatcher(q);
-    const IPathManager *paths = IPathManager::get();
-    const QString directory = paths != nullptr ? paths->getUserPresetDirectory() : QString();
-    if (QFileInfo(directory).isDir()) // watching what is not there would only make Qt complain
-        watcher->addPath(directory);
+    QString directory = userPresetDirectory();
+    if (directory.isEmpty())
+        return;
+    while (!QFileInfo(directory).isDir()) {
+        const QString parent = QFileInfo(directory).path();
+        if (parent == directory)
+            return;
+        directory = parent;
+    }
+    const QStringList watched = watcher->directories();
+    if (watched.contains(directory))
+        return;
+    if (!watched.isEmpty())
+        watcher->removePaths(watched);
+    watcher->addPath(directory);
+}
+
+void QvelShortcutsWidget::Private::followDirectory(const QString &changed)
+{
+    watchUserPresets();
+    const QString directory = userPresetDirectory();
+    if (changed == directory || watcher->directories().contains(directory))
+        commands->refreshList();
 }
 
 void QvelShortcutsWidget::Private::setUpPresetComboBox()
@@ -166,9 +187,9 @@ void QvelShortcutsWidget::Private::setUpFields()
 
 void QvelShortcutsWidget::Private::alignFilterLabels()
 {
+    // The box around the ink is narrower: the first letter would be cut off.
     const auto textWidth = [](const QLabel *label) {
-        return label->fontMetrics().boundingRect(label->text()).width()
-               + label->fontMetrics().averageCharWidth();
+        return qCeil(QFontMetricsF(label->font()).horizontalAdvance(label->text()));
     };
     const int width = std::max(textWidth(form.groupLabel), textWidth(form.filterLabel));
     form.groupLabel->setFixedWidth(width);
@@ -233,7 +254,7 @@ void QvelShortcutsWidget::Private::connectAll()
 void QvelShortcutsWidget::Private::connectLists()
 {
     connect(watcher, &QFileSystemWatcher::directoryChanged, q,
-            [this] { form.hotkeySetComboBox->updatePresets(ConfigType::HotkeySet, true); });
+            [this](const QString &directory) { followDirectory(directory); });
     connect(form.shortcutLineEdit, &QLineEdit::textChanged, panel,
             &ActionSelectionPanel::followTypedText);
     QHeaderView *header = form.keyActionsTreeView->header();
@@ -270,7 +291,9 @@ void QvelShortcutsWidget::Private::connectStore()
     connect(manager, &QvelShortcutManager::shortcutTransformsCleared, q, [this] {
         panel->updateSelectedActionShortcutList();
         if (transformationDialog != nullptr)
-            transformationDialog->clear();
+            transformationDialog->refill();
+        panel->hideReassignControls(); // what was removed is back
+        panel->updateAssignedShortcutFields();
     });
     connect(manager, &QvelShortcutManager::shortcutTransformsCollapsed, q, [this] {
         if (transformationDialog != nullptr)
@@ -280,6 +303,9 @@ void QvelShortcutsWidget::Private::connectStore()
         form.shortcutLineEdit->clear();
         panel->updateAssignedShortcutFields();
         panel->updateSelectedActionShortcutList();
+        panel->hideReassignControls();
+        if (transformationDialog != nullptr)
+            transformationDialog->refill();
     });
 }
 
@@ -347,20 +373,34 @@ void QvelShortcutsWidget::Private::keepCurrentActionInView()
 
 bool QvelShortcutsWidget::Private::filterKeyPress(bool typesHotkey, const QKeyEvent &event)
 {
-    if (typesHotkey) {
+    if (typesHotkey || search->isByHotkeys()) {
         if (!event.isAutoRepeat())
-            panel->capture(event);
-        return true;
-    }
-    if (search->isByHotkeys()) {
-        if (!event.isAutoRepeat())
-            search->capture(event);
+            takeKey(typesHotkey, event);
         return true;
     }
     if (event.key() != Qt::Key_Escape)
         return false;
     form.searchLineEdit->clear();
     return true;
+}
+
+void QvelShortcutsWidget::Private::takeKey(bool typesHotkey, const QKeyEvent &event)
+{
+    if (typesHotkey)
+        panel->capture(event);
+    else
+        search->capture(event);
+    // All other keys stay in the field.
+    const auto way = HotkeyRecorder::wayOut(event);
+    const QLineEdit *field = typesHotkey ? form.shortcutLineEdit : form.searchLineEdit;
+    if (way == HotkeyRecorder::WayOut::None || !field->hasFocus())
+        return;
+    q->focusNextPrevChild(way == HotkeyRecorder::WayOut::Next);
+    // The keys will be released elsewhere.
+    if (typesHotkey)
+        QMetaObject::invokeMethod(panel, &ActionSelectionPanel::releaseKeys, Qt::QueuedConnection);
+    else
+        QMetaObject::invokeMethod(search, &ActionSearch::releaseKeys, Qt::QueuedConnection);
 }
 
 // Languages
@@ -398,10 +438,7 @@ void QvelShortcutsWidget::Private::retranslateFilters()
 // The names of shipped sets and the headers of the table are translated where they are read.
 void QvelShortcutsWidget::Private::retranslateLists()
 {
-    const QSignalBlocker blocker(form.hotkeySetComboBox);
-    const Preset current = form.hotkeySetComboBox->currentPreset();
-    form.hotkeySetComboBox->updatePresets(ConfigType::HotkeySet, true);
-    form.hotkeySetComboBox->setCurrentPreset(current); // none, if there was none
+    commands->refreshList();
     model->setHorizontalHeaderLabels(
             {QvelActionItemModel::tr("Action"), QvelActionItemModel::tr("Hotkey"),
              QvelActionItemModel::tr("Group"), QvelActionItemModel::tr("Category")});

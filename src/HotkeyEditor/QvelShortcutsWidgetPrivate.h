@@ -49,6 +49,7 @@ public:
 private:
     void scaleWidths();
     void watchUserPresets();
+    void followDirectory(const QString &changed);
     void setUpPresetComboBox();
     void setUpPresetOptionsButton();
     void setUpTree();
@@ -64,6 +65,7 @@ private:
     void filterByHotkeyState(int index);
     void filterByContext(int index);
     void keepCurrentActionInView();
+    void takeKey(bool typesHotkey, const QKeyEvent &event);
 
     QList<QAction *> m_optionActions;
     QList<int> m_savedColumnWidths;

@@ -48,11 +48,6 @@ void TransformationListDialog::append(const ShortcutTransformation &step)
     m_model->appendRow(new QStandardItem(step.toString()));
 }
 
-void TransformationListDialog::clear()
-{
-    m_model->clear();
-}
-
 void TransformationListDialog::refill()
 {
     m_model->clear();

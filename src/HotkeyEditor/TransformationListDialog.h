@@ -20,7 +20,6 @@ public:
 
     /// The store has recorded a step.
     void followAdded(const ShortcutTransformation &step);
-    void clear();
     /// Lists the recorded steps anew.
     void refill();
 

@@ -71,16 +71,18 @@ EditorHarness::~EditorHarness()
     close();
 }
 
-void EditorHarness::open()
+void EditorHarness::open(QWidget *dialog)
 {
     manager.loadCurrentShortcutConfiguration();
     model = std::make_unique<CUI::QvelActionItemModel>(&manager);
-    editor = std::make_unique<CUI::QvelShortcutsWidget>(model.get(), &manager);
-    editor->show();
+    editor = std::make_unique<CUI::QvelShortcutsWidget>(model.get(), &manager, dialog);
+    if (dialog != nullptr)
+        dialog->layout()->addWidget(editor.get());
+    editor->window()->show();
     QObject::connect(child<QLineEdit>("HotkeyEditor_searchLineEdit"), &QLineEdit::textChanged,
                      editor.get(), [this] { m_hasSearched = true; });
-    QApplication::setActiveWindow(editor.get());
-    QVERIFY(QTest::qWaitForWindowActive(editor.get()));
+    QApplication::setActiveWindow(editor->window());
+    QVERIFY(QTest::qWaitForWindowActive(editor->window()));
 }
 
 void EditorHarness::close()
@@ -185,6 +187,21 @@ void EditorHarness::chooseSet(const QString &name) const
     comboBox->setCurrentIndex(comboBox->findText(name));
 }
 
+QStringList EditorHarness::listedSets() const
+{
+    const auto *comboBox = child<QComboBox>("HotkeyEditor_hotkeySetComboBox");
+    QStringList names;
+    for (int i = 0; i < comboBox->count(); ++i)
+        names << comboBox->itemText(i);
+    return names;
+}
+
+void EditorHarness::refreshList() const
+{
+    host.write(s("user/Zed.hsx"), "<VelHotkeyTransformations/>");
+    QTRY_VERIFY(listedSets().contains(s("Zed")));
+}
+
 DialogDriver::DialogDriver()
 {
     lookAgain();
@@ -234,6 +251,15 @@ DialogDriver &DialogDriver::expectFile(const QString &title, const QString &path
         auto *name = fileDialog->findChild<QLineEdit *>(s("fileNameEdit"));
         name->setText(path);
         QTest::keyClick(name, Qt::Key_Return);
+    });
+}
+
+DialogDriver &DialogDriver::expectReplacement()
+{
+    return expect([](QWidget *dialog) {
+        auto *question = qobject_cast<QMessageBox *>(dialog);
+        QVERIFY(question != nullptr);
+        QTest::mouseClick(question->button(QMessageBox::Yes), Qt::LeftButton);
     });
 }
 

@@ -23,8 +23,8 @@ public:
     EditorHarness();
     ~EditorHarness();
 
-    /// Makes the editor and shows it.
-    void open();
+    /// Makes the editor and shows it, at the end of the layout of @p dialog if there is one.
+    void open(QWidget *dialog = nullptr);
     void close();
 
     /// The child of that object name; aborts the test when there is none.
@@ -51,6 +51,10 @@ public:
     /// The text of the set that is chosen.
     QString chosenSet() const;
     void chooseSet(const QString &name) const;
+    /// The texts of all sets that can be chosen.
+    QStringList listedSets() const;
+    /// Lets another set, "Zed", appear, so that the list is made anew.
+    void refreshList() const;
 
     TestHost host;
     CUI::QvelShortcutManager manager;
@@ -82,6 +86,8 @@ public:
     DialogDriver &expectBox(const QString &title, int button);
     /// Types a path into a file dialog and accepts it; an empty path cancels.
     DialogDriver &expectFile(const QString &title, const QString &path);
+    /// Lets a file dialog replace the file that was chosen.
+    DialogDriver &expectReplacement();
     DialogDriver &expect(Answer answer);
 
     /// True when exactly the expected dialogs came.

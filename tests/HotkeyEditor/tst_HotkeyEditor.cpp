@@ -1,6 +1,5 @@
 #include "EditorHarness.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
@@ -16,9 +15,12 @@
 #include <QSignalSpy>
 #include <QToolButton>
 #include <QTreeView>
+#include <QtMath>
 #include <QtTest>
 
 #include <VelUtil.h>
+
+#include <algorithm>
 
 using CUI::QvelShortcutsWidget;
 
@@ -48,10 +50,9 @@ private Q_SLOTS:
     void removesAndUndoes();
     void removesRowAndUndoes();
     void removesRowWithoutEdits();
+    void takesRemovalBack_data();
+    void takesRemovalBack();
     void refusesSeventhHotkey();
-    void capturesInField_data();
-    void capturesInField();
-    void keepsShortcutsOfTheHostQuiet();
     void searchesActions();
     void searchesHotkeys();
     void headerEndsRanking();
@@ -129,6 +130,11 @@ void TestHotkeyEditor::hasItsTexts()
     check("HotkeyEditor_selectedActionLabel", "No action selected", "");
     check("HotkeyEditor_actionDescriptionLabel",
           "Select an action in the table on the left to edit its hotkeys", "");
+    const QFontMetricsF metrics(m->editor->font());
+    const int widest = qCeil(std::max(metrics.horizontalAdvance(s("Group:")),
+                                      metrics.horizontalAdvance(s("Filter:"))));
+    QCOMPARE(m->child<QWidget>("HotkeyEditor_groupLabel")->width(), widest);
+    QCOMPARE(m->child<QWidget>("HotkeyEditor_filterLabel")->width(), widest);
     QCOMPARE(m->child<QGroupBox>("newHotkeysGroupBox")->title(), s("Hotkeys"));
     QVERIFY(!m->child<QGroupBox>("newHotkeysGroupBox")->isVisible());
     QCOMPARE(field()->placeholderText(), s("Press keys..."));
@@ -293,6 +299,39 @@ void TestHotkeyEditor::removesRowWithoutEdits()
     QCOMPARE(m->assigned(), s("F7, Ctrl+S, S"));
 }
 
+void TestHotkeyEditor::takesRemovalBack_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("isReset"); // or else the store is emptied
+    QTest::newRow("base hotkey") << int(Qt::Key_B) << true;
+    QTest::newRow("hotkey of the set") << int(Qt::Key_F5) << true;
+    QTest::newRow("no hotkeys at all") << int(Qt::Key_B) << false;
+}
+
+// The removal that could be undone has not happened any more.
+void TestHotkeyEditor::takesRemovalBack()
+{
+    QFETCH(int, key);
+    QFETCH(bool, isReset);
+    m->select(sphere);
+    m->press(key);
+    m->click("HotkeyEditor_removeShortcutBtn");
+    QVERIFY(showsReassignControls());
+    if (isReset) {
+        DialogDriver dialogs;
+        dialogs.expectBox(s("Reset Hotkeys"), QMessageBox::Discard);
+        m->triggerOption(s("Reset"));
+        QVERIFY(dialogs.check());
+        QCOMPARE(m->manager.getShortcutsFromActionId(box), s("B, F5"));
+    } else {
+        m->manager.clearShortcuts();
+    }
+    QVERIFY(!button("HotkeyEditor_undoRemoveBtn")->isVisible());
+    QVERIFY(!label("HotkeyEditor_removedFromLabel")->isVisible());
+    QCOMPARE(showsConflictControls(), isReset);
+    QVERIFY(!button("HotkeyEditor_assignShortcutBtn")->isEnabled());
+}
+
 void TestHotkeyEditor::refusesSeventhHotkey()
 {
     m->select(boxes);
@@ -307,66 +346,6 @@ void TestHotkeyEditor::refusesSeventhHotkey()
     QVERIFY(dialogs.check());
     QCOMPARE(m->assigned(), s("6, 5, 4, 3, 2, 1"));
     QCOMPARE(field()->text(), s("7"));
-}
-
-void TestHotkeyEditor::capturesInField_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QString>("text"); // while the keys are held
-    QTest::addColumn<bool>("captured");
-
-    QTest::newRow("Return") << int(Qt::Key_Return) << 0 << "Enter" << true;
-    QTest::newRow("Tab") << int(Qt::Key_Tab) << 0 << "Tab" << true;
-    QTest::newRow("Shift+Tab") << int(Qt::Key_Backtab) << int(Qt::ShiftModifier) << "Shift+Tab"
-                               << true;
-    QTest::newRow("Escape") << int(Qt::Key_Escape) << 0 << "" << false;
-    QTest::newRow("Ctrl+Escape") << int(Qt::Key_Escape) << int(Qt::ControlModifier) << "Ctrl+"
-                                 << false;
-    QTest::newRow("Ctrl+Tab") << int(Qt::Key_Tab) << int(Qt::ControlModifier) << "Ctrl+" << false;
-    QTest::newRow("F1") << int(Qt::Key_F1) << 0 << "" << false;
-    QTest::newRow("modifiers alone")
-            << int(Qt::Key_Alt) << int(Qt::ControlModifier | Qt::AltModifier) << "Ctrl+Alt+"
-            << false;
-}
-
-void TestHotkeyEditor::capturesInField()
-{
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
-    QFETCH(QString, text);
-    QFETCH(bool, captured);
-    m->select(box);
-    field()->setFocus();
-    m->press(Qt::Key_Q); // something to forget
-    const auto held = Qt::KeyboardModifiers(modifiers);
-    QTest::keyPress(field(), Qt::Key(key), held);
-    QCOMPARE(field()->text(), text);
-    QCOMPARE(button("HotkeyEditor_assignShortcutBtn")->isEnabled(), captured);
-    QTest::keyRelease(field(), Qt::Key(key), held);
-    QCOMPARE(field()->text(), captured ? text : QString());
-    QVERIFY(field()->hasFocus());
-}
-
-void TestHotkeyEditor::keepsShortcutsOfTheHostQuiet()
-{
-    QAction action;
-    action.setShortcuts({QKeySequence(s("Ctrl+G")), QKeySequence(s("Tab"))});
-    action.setShortcutContext(Qt::ApplicationShortcut);
-    m->editor->addAction(&action);
-    QSignalSpy fired(&action, &QAction::triggered);
-    m->select(box);
-    QTest::keyClick(m->child<QTreeView>("HotkeyEditor_keyActionsTreeView"), Qt::Key_G,
-                    Qt::ControlModifier);
-    QCOMPARE(fired.count(), 1); // it works elsewhere
-    field()->setFocus();
-    m->press(Qt::Key_G, Qt::ControlModifier);
-    QCOMPARE(field()->text(), s("Ctrl+G"));
-    m->press(Qt::Key_Tab);
-    m->child<QRadioButton>("HotkeyEditor_hotkeyRadioButton")->click();
-    QTest::keyClick(search(), Qt::Key_G, Qt::ControlModifier);
-    QCOMPARE(search()->text(), s("Ctrl+G"));
-    QCOMPARE(fired.count(), 1);
 }
 
 void TestHotkeyEditor::searchesActions()
@@ -389,13 +368,19 @@ void TestHotkeyEditor::searchesHotkeys()
 {
     auto *tree = m->child<QTreeView>("HotkeyEditor_keyActionsTreeView");
     QTest::keyClicks(search(), s("be"));
+    m->select(bevel);
+    m->press(Qt::Key_K);
     m->child<QRadioButton>("HotkeyEditor_hotkeyRadioButton")->click();
     QVERIFY(search()->text().isEmpty());
+    QCOMPARE(field()->text(), s("K")); // the selected row has been listed all the time
     QCOMPARE(search()->placeholderText(), s("Type to search by Hotkeys..."));
     QTest::keyClick(search(), Qt::Key_B);
     QCOMPARE(search()->text(), s("B"));
     QCOMPARE(m->rows(), s("Bevel, Box"));
     QCOMPARE(tree->header()->sortIndicatorSection(), 1);
+    m->manager.assignShortcut(bevel, s("S"), s("Bevel"));
+    QTest::keyClick(search(), Qt::Key_S);
+    QCOMPARE(m->rows(), s("Bevel, Sphere")); // not ranked: names have no part in this search
     QTest::keyClick(search(), Qt::Key_S, Qt::ControlModifier);
     QCOMPARE(m->rows(), s("Sphere"));
     QTest::keyClick(search(), Qt::Key_Escape); // no way to end the search, only no hotkey
@@ -481,6 +466,16 @@ void TestHotkeyEditor::reloadsActions()
     QCOMPARE(tree->columnWidth(1), 77);
     QCOMPARE(m->editor->currentAction()->identifier(), sphere);
     QCOMPARE(m->assigned(), s("Ctrl+S, S"));
+
+    field()->setFocus();
+    m->press(Qt::Key_K);
+    m->host.registry()->removeAction(sphere);
+    m->editor->reloadActionsList();
+    QVERIFY(m->editor->currentAction() == nullptr);
+    QCOMPARE(label("HotkeyEditor_selectedActionLabel")->text(), s("<b>No action selected</b>"));
+    QVERIFY(!m->child<QGroupBox>("newHotkeysGroupBox")->isVisible());
+    QVERIFY(search()->hasFocus()); // the chooser of sets would take the next letter
+    QVERIFY(field()->text().isEmpty());
 }
 
 void TestHotkeyEditor::listsTransformations()
@@ -510,6 +505,15 @@ void TestHotkeyEditor::listsTransformations()
     m->editor->applyCurrentTransformation();
     QCOMPARE(texts(), QString());
     QCOMPARE(m->manager.getBaseShortcutsFromActionId(box), s("F5"));
+
+    m->chooseSet(s("Other"));
+    QCOMPARE(texts(), s("Remove 'B' from ."));
+    m->chooseSet(s("Mine"));
+    QCOMPARE(texts(), s("Add 'F5' to Box."));
+    m->manager.assignShortcut(sphere, s("F9"), s("Sphere"));
+    QCOMPARE(texts(), s("Add 'F5' to Box. Add 'F9' to Sphere."));
+    m->manager.clearShortcuts();
+    QCOMPARE(texts(), QString());
 }
 
 void TestHotkeyEditor::colours()
@@ -536,6 +540,7 @@ void TestHotkeyEditor::colours()
 void TestHotkeyEditor::followsTheLanguage()
 {
     m->select(sphere);
+    m->press(Qt::Key_K, Qt::ControlModifier);
     QTest::keyClicks(search(), s("s"));
     QEvent change(QEvent::LanguageChange);
     QApplication::sendEvent(m->editor.get(), &change);
@@ -543,6 +548,8 @@ void TestHotkeyEditor::followsTheLanguage()
     QCOMPARE(search()->text(), s("s"));
     QCOMPARE(m->assigned(), s("Ctrl+S, S"));
     QVERIFY(field()->text().isEmpty());
+    m->clickRow(s("S")); // looks anew at what stands in the field
+    QVERIFY(!button("HotkeyEditor_assignShortcutBtn")->isEnabled());
 }
 
 QTEST_MAIN(TestHotkeyEditor)

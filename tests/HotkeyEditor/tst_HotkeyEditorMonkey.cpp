@@ -4,9 +4,11 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -38,6 +40,8 @@ private:
     void answerDialog();
     void changeFiles();
     void compare();
+    void compareList();
+    void compareField(const CUI::ActionIdentifier &current);
     unsigned below(unsigned limit) { return unsigned(m_random()) % limit; }
 
     std::mt19937 m_random{20};
@@ -147,6 +151,9 @@ void TestHotkeyEditorMonkey::compare()
                  m.manager.getShortcutsFromActionId(action->identifier()));
     }
     QCOMPARE(m.editor->isModified(), m.manager.isUserModified());
+    compareList();
+    if (QTest::currentTestFailed())
+        return;
     const CUI::VelAction *current = m.editor->currentAction();
     if (current == nullptr || !m.child<QWidget>("newHotkeysGroupBox")->isVisible())
         return;
@@ -160,6 +167,37 @@ void TestHotkeyEditorMonkey::compare()
     shown.sort();
     held.sort();
     QCOMPARE(shown, held);
+    compareField(current->identifier());
+}
+
+// The window of the recorded steps.
+void TestHotkeyEditorMonkey::compareList()
+{
+    const auto *dialog = m.editor->findChild<QDialog *>();
+    if (dialog == nullptr)
+        return;
+    const QAbstractItemModel *list = dialog->findChild<QListView *>()->model();
+    QStringList listed;
+    for (int row = 0; row < list->rowCount(); ++row)
+        listed << list->index(row, 0).data().toString();
+    QStringList recorded;
+    for (const CUI::ShortcutTransformation &step : m.manager.currentTransformations())
+        recorded << step.toString();
+    QCOMPARE(listed, recorded);
+}
+
+// What can be assigned is free, and what another action holds is shown as a conflict.
+void TestHotkeyEditorMonkey::compareField(const CUI::ActionIdentifier &current)
+{
+    const QKeySequence typed(m.child<QLineEdit>("HotkeyEditor_shortcutLineEdit")->text(),
+                             QKeySequence::NativeText);
+    const CUI::ActionIdentifier holder = m.manager.getActionIdFromShortcut(
+            typed.toString(QKeySequence::PortableText), current.tableId);
+    const bool isFree = holder.isEmpty() || holder == current;
+    const auto *conflict = m.child<QWidget>("HotkeyEditor_removeShortcutBtn");
+    const auto *assign = m.child<QWidget>("HotkeyEditor_assignShortcutBtn");
+    QCOMPARE(conflict->isVisible(), !isFree);
+    QCOMPARE(assign->isEnabled(), isFree && !typed.isEmpty());
 }
 
 void TestHotkeyEditorMonkey::widgetsAgreeWithTheStore()

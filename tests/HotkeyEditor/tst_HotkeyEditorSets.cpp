@@ -3,11 +3,15 @@
 #include <UiCustomizations/Preset.h>
 
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTranslator>
 #include <QtTest>
+
+#include <functional>
 
 using CUI::Preset;
 using CUI::QvelShortcutsWidget;
@@ -19,7 +23,39 @@ QString s(const char *text)
     return QString::fromUtf8(text);
 }
 
+/// Translates the name of the shipped set.
+class NameTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        return qstrcmp(context, "CUI") == 0 && qstrcmp(source, "Default") == 0 ? s("Standard")
+                                                                               : QString();
+    }
+};
+
+/// Keeps the folder that the desktop is asked to open.
+class Desktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    Desktop() { QDesktopServices::setUrlHandler(s("file"), this, "open"); }
+    ~Desktop() override { QDesktopServices::unsetUrlHandler(s("file")); }
+    QString opened;
+
+public Q_SLOTS:
+    void open(const QUrl &url) { opened = url.toLocalFile(); }
+};
+
+/// Opens dialogs and expects that the last one meets the given end.
+using Opening =
+        std::function<void(EditorHarness &, DialogDriver &, const DialogDriver::Answer &end)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Opening)
 
 /// The commands that act on whole hotkey sets, with their dialogs.
 class TestHotkeyEditorSets : public QObject
@@ -40,18 +76,18 @@ private Q_SLOTS:
     void neverOverwritesLockedSets();
     void keepsEditsWhenSavingFails();
     void resets();
+    void resetKeepsTranslatedName();
     void asksAboutVanishedFile_data();
     void asksAboutVanishedFile();
-    void loadsFromFile();
-    void reportsBadFile();
-    void cancelledDialogsChangeNothing();
-    void importsLegacyFile();
-    void asksBeforeReplacingOnImport();
-    void reportsFailedImport();
-    void validatesFiles();
+    void listsVanishedSetOnce();
+    void opensFolderOfVanishedSet();
     void followsTheDirectory();
+    void followsLateDirectory();
+    void refreshesWithoutChoosing();
     void showsNamesAsTyped();
     void opensOverUnsavedEdits();
+    void mayGoWhileItAsks_data();
+    void mayGoWhileItAsks();
 
 private:
     void edit() { m->manager.assignShortcut(bevel, s("F9"), s("Bevel")); }
@@ -60,6 +96,7 @@ private:
     {
         return m->manager.getShortcutsFromActionId(id);
     }
+    QComboBox *sets() const { return m->child<QComboBox>("HotkeyEditor_hotkeySetComboBox"); }
     std::unique_ptr<EditorHarness> m;
 };
 
@@ -181,27 +218,27 @@ void TestHotkeyEditorSets::savesLockedSetElsewhere()
 void TestHotkeyEditorSets::neverOverwritesLockedSets_data()
 {
     QTest::addColumn<bool>("byAttribute");
-    QTest::newRow("read-only file") << false;
-    QTest::newRow("locked by its own word") << true;
+    QTest::addColumn<bool>("asBaseFile");
+    QTest::newRow("read-only file") << false << false;
+    QTest::newRow("locked by its own word") << true << false;
+    QTest::newRow("read-only file, base hotkeys") << false << true;
+    QTest::newRow("locked by its own word, base hotkeys") << true << true;
 }
 
 void TestHotkeyEditorSets::neverOverwritesLockedSets()
 {
     QFETCH(bool, byAttribute);
+    QFETCH(bool, asBaseFile);
     const QString locked = byAttribute ? m->host.write(s("user/Locked.hsx"),
                                                        "<VelHotkeyTransformations Locked='1'/>")
                                        : m->shippedSet;
     const QByteArray before = contents(locked);
     edit();
     DialogDriver dialogs;
-    dialogs.expectFile(s("Save Hotkey Set As"), locked)
-            .expect([](QWidget *question) { // the file dialog asks whether to replace the file
-                auto *replace = qobject_cast<QMessageBox *>(question);
-                QVERIFY(replace != nullptr);
-                QTest::mouseClick(replace->button(QMessageBox::Yes), Qt::LeftButton);
-            })
+    dialogs.expectFile(asBaseFile ? s("Save Shortcuts") : s("Save Hotkey Set As"), locked)
+            .expectReplacement()
             .expectBox(s("Save Changes Error"), QMessageBox::Ok);
-    m->editor->saveShortcutsTransformation();
+    asBaseFile ? m->editor->saveShortcuts() : m->editor->saveShortcutsTransformation();
     QVERIFY(dialogs.check());
     QCOMPARE(dialogs.texts().last(), s("Cannot overwrite a locked preset file!"));
     QCOMPARE(contents(locked), before);
@@ -237,6 +274,20 @@ void TestHotkeyEditorSets::resets()
     QCOMPARE(hotkeys(bevel), s("B"));
     QCOMPARE(hotkeys(box), s("B, F5")); // the set itself stays
     QCOMPARE(m->chosenSet(), s("Mine"));
+}
+
+void TestHotkeyEditorSets::resetKeepsTranslatedName()
+{
+    NameTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QTRY_VERIFY(m->listedSets().contains(s("Standard")));
+    m->chooseSet(s("Standard"));
+    edit();
+    DialogDriver dialogs;
+    dialogs.expectBox(s("Reset Hotkeys"), QMessageBox::Discard);
+    m->triggerOption(s("Reset"));
+    QVERIFY(dialogs.check());
+    QCOMPARE(m->chosenSet(), s("Standard"));
 }
 
 void TestHotkeyEditorSets::asksAboutVanishedFile_data()
@@ -277,169 +328,82 @@ void TestHotkeyEditorSets::asksAboutVanishedFile()
     QCOMPARE(m->editor->isModified(), answer == QMessageBox::Cancel);
 }
 
-void TestHotkeyEditorSets::loadsFromFile()
+// A set whose file is not there when the editor opens, but later.
+void TestHotkeyEditorSets::listsVanishedSetOnce()
 {
-    const QString path = QDir::cleanPath(
-            m->host.write(s("elsewhere.hsx"), "<VelHotkeyTransformations Description='Far Away'>"
-                                              "<Assign_Hotkey Shortcut='Q' Id='2-bevel'/>"
-                                              "</VelHotkeyTransformations>"));
+    m->close();
+    QVERIFY(QFile::remove(m->userSet));
+    m->open();
+    QCOMPARE(m->chosenSet(), s("Mine"));
     DialogDriver dialogs;
-    dialogs.expectFile(s("Load Hotkey Set"), path);
-    m->triggerOption(s("Load From File..."));
+    dialogs.expectFile(s("Save Hotkey Set As"), m->userSet);
+    m->triggerOption(s("Save"));
     QVERIFY(dialogs.check());
-    QCOMPARE(m->chosenSet(), s("Far Away"));
-    QCOMPARE(hotkeys(bevel), s("B, Q"));
-    QCOMPARE(hotkeys(box), s("B"));
-    QCOMPARE(m->host.paths()->currentSet, path);
-    QVERIFY(!m->editor->isModified());
-    m->chooseSet(s("Mine"));
-    m->chooseSet(s("Far Away")); // it stays in the list
-    QCOMPARE(hotkeys(bevel), s("B, Q"));
-}
-
-void TestHotkeyEditorSets::reportsBadFile()
-{
-    const QString path = m->host.write(s("bad.hsx"), "<VelHotkeys/>");
-    m->host.paths()->logFile = m->host.path(s("log.txt"));
-    QString reason;
-    bool offersLog = false;
-    DialogDriver dialogs;
-    dialogs.expectFile(s("Load Hotkey Set"), path).expect([&](QWidget *dialog) {
-        auto *messageBox = qobject_cast<QMessageBox *>(dialog);
-        reason = messageBox->informativeText();
-        for (const QAbstractButton *button : messageBox->buttons())
-            offersLog = offersLog || button->text() == s("Open Log File");
-        QTest::mouseClick(messageBox->button(QMessageBox::Ok), Qt::LeftButton);
-    });
-    m->editor->loadShortcutsTransformation();
-    QVERIFY(dialogs.check());
-    QVERIFY2(reason.contains(s("Line: 1")), qPrintable(reason));
-    QVERIFY(offersLog);
-    QCOMPARE(hotkeys(box), s("B, F5"));
+    m->refreshList();
+    QCOMPARE(m->listedSets(), QStringList({s("Default"), s("Mine"), s("Other"), s("Zed")}));
     QCOMPARE(m->chosenSet(), s("Mine"));
 }
 
-void TestHotkeyEditorSets::cancelledDialogsChangeNothing()
+void TestHotkeyEditorSets::opensFolderOfVanishedSet()
 {
-    edit();
-    const QStringList before = m->host.paths()->recorded;
-    DialogDriver dialogs;
-    dialogs.expectFile(s("Save Hotkey Set As"), QString())
-            .expectBox(s("Unsaved Changes"), QMessageBox::Cancel)
-            .expectBox(s("Unsaved Changes"), QMessageBox::Cancel)
-            .expectFile(s("Validate Shortcut File"), QString())
-            .expectFile(s("Save Shortcuts"), QString())
-            .expectBox(s("Unsaved Changes"), QMessageBox::Cancel);
-    m->editor->saveShortcutsTransformation();
-    m->editor->loadShortcutsTransformation();
-    m->editor->selectFileForConversion();
-    m->editor->validateShortcutFile();
-    m->editor->saveShortcuts();
-    m->editor->loadShortcuts();
-    QVERIFY(dialogs.check());
-    QVERIFY(m->editor->isModified());
-    QCOMPARE(hotkeys(bevel), s("B, F9"));
-    QCOMPARE(m->host.paths()->recorded, before);
-    QCOMPARE(m->chosenSet(), s("Mine"));
-}
-
-void TestHotkeyEditorSets::importsLegacyFile()
-{
-    m->host.write(s("legacy/LegacyDefaultUI-2019.kbdx"), "<VLSK_KBD/>");
-    const QString in =
-            m->host.write(s("old keys.kbdx"), "<VLSK_KBD><shortcut fVirt='11' accleleratorKey='81' "
-                                              "actionID='bevel' actionTableID='2'/></VLSK_KBD>");
-    QSignalSpy converted(m->editor.get(), &QvelShortcutsWidget::legacyHotkeySetConverted);
-    DialogDriver dialogs;
-    dialogs.expectFile(s("Convert Legacy Hotkeys"), in)
-            .expectBox(s("Hotkey File Converted"), QMessageBox::Ok);
-    m->triggerOption(s("Import Legacy Hotkeys..."));
-    QVERIFY(dialogs.check());
-    QCOMPARE(
-            dialogs.texts().value(0),
-            s("old keys.kbdx was successfully converted and loaded.\n\nThe new file, old keys.hsx, "
-              "is saved in your User Settings folder."));
-    QCOMPARE(converted.count(), 1);
-    QVERIFY(converted.at(0).at(0).toBool());
-    QCOMPARE(hotkeys(bevel), s("B, Ctrl+Q"));
-    QCOMPARE(m->chosenSet(), s("old keys"));
-    QCOMPARE(m->host.paths()->currentSet, m->host.paths()->userPresets + s("/old keys.hsx"));
-}
-
-void TestHotkeyEditorSets::asksBeforeReplacingOnImport()
-{
-    m->host.write(s("legacy/LegacyDefaultUI-2019.kbdx"), "<VLSK_KBD/>");
-    const QString in = m->host.write(s("Other.kbdx"), "<VLSK_KBD/>");
-    const QString locked =
-            m->host.write(s("user/Locked.hsx"), "<VelHotkeyTransformations Locked='true'/>");
-    const QByteArray before = contents(m->otherSet);
-    const QByteArray lockedBefore = contents(locked);
-    DialogDriver dialogs;
-    dialogs.expectFile(s("Convert Legacy Hotkeys"), in)
-            .expect([](QWidget *dialog) {
-                auto *question = qobject_cast<QMessageBox *>(dialog);
-                QCOMPARE(question->windowTitle(), s("Hotkey File Already Exists"));
-                QCOMPARE(question->standardButton(question->defaultButton()), QMessageBox::No);
-                QTest::keyClick(question, Qt::Key_Return);
-            })
-            .expectFile(s("Convert Legacy Hotkeys"), m->host.write(s("Locked.kbdx"), "<VLSK_KBD/>"))
-            .expectBox(s("Save Changes Error"), QMessageBox::Ok)
-            .expectFile(s("Convert Legacy Hotkeys"), in)
-            .expectBox(s("Hotkey File Already Exists"), QMessageBox::Yes)
-            .expectBox(s("Hotkey File Converted"), QMessageBox::Ok);
-    m->editor->selectFileForConversion();
-    QCOMPARE(contents(m->otherSet), before);
-    m->editor->selectFileForConversion();
-    QCOMPARE(contents(locked), lockedBefore);
-    m->editor->selectFileForConversion();
-    QVERIFY(dialogs.check());
-    QVERIFY(contents(m->otherSet) != before);
-}
-
-void TestHotkeyEditorSets::reportsFailedImport()
-{
-    const QString in = m->host.write(s("bad.kbdx"), "<Other/>");
-    QSignalSpy converted(m->editor.get(), &QvelShortcutsWidget::legacyHotkeySetConverted);
-    DialogDriver dialogs;
-    dialogs.expectFile(s("Convert Legacy Hotkeys"), in)
-            .expectBox(s("Hotkeys Conversion Failed"), QMessageBox::Ok);
-    m->editor->selectFileForConversion();
-    QVERIFY(dialogs.check());
-    QCOMPARE(dialogs.texts().value(0), s("Something went wrong while converting bad.kbdx.\n\nSee "
-                                         "the log for more details."));
-    QCOMPARE(converted.count(), 1);
-    QVERIFY(!converted.at(0).at(0).toBool());
-    QCOMPARE(m->chosenSet(), s("Mine"));
-}
-
-void TestHotkeyEditorSets::validatesFiles()
-{
-    const QString base = m->host.path(s("base.hsxb"));
-    DialogDriver dialogs;
-    dialogs.expectFile(s("Validate Shortcut File"), base)
-            .expectBox(s("Shortcut File Validation"), QMessageBox::Ok)
-            .expectFile(s("Validate Shortcut Transform File"), base)
-            .expectBox(s("Shortcut Transform File Validation"), QMessageBox::Ok);
-    m->editor->validateShortcutFile();
-    m->editor->validateShortcutTransformationFile();
-    QVERIFY(dialogs.check());
-    QCOMPARE(dialogs.texts(),
-             QStringList({s("Xml File valid!! According to schema definition."),
-                          s("Xml File invalid!! According to schema definition.")}));
+    Desktop desktop;
+    QVERIFY(QFile::remove(m->userSet));
+    m->triggerOption(s("Open File Location"));
+    QCOMPARE(desktop.opened, m->host.paths()->userPresets);
 }
 
 void TestHotkeyEditorSets::followsTheDirectory()
 {
     edit();
     m->host.write(s("user/Brand New.hsx"), "<VelHotkeyTransformations/>");
-    auto *comboBox = m->child<QComboBox>("HotkeyEditor_hotkeySetComboBox");
-    QTRY_VERIFY(comboBox->findText(s("Brand New")) >= 0);
+    QTRY_VERIFY(m->listedSets().contains(s("Brand New")));
     QCOMPARE(m->chosenSet(), s("Mine"));
     QVERIFY(m->editor->isModified());
     QVERIFY(QFile::remove(m->userSet)); // the loaded set stays in the list
     QVERIFY(QFile::remove(m->otherSet));
-    QTRY_VERIFY(comboBox->findText(s("Other")) < 0);
+    QTRY_VERIFY(!m->listedSets().contains(s("Other")));
     QCOMPARE(m->chosenSet(), s("Mine"));
+}
+
+void TestHotkeyEditorSets::followsLateDirectory()
+{
+    m->close();
+    m->host.paths()->userPresets = QDir::cleanPath(m->host.path(s("later/sets")));
+    m->open();
+    for (int i = 0; i < 2; ++i) { // it may also go and come again
+        QVERIFY(QDir().mkpath(m->host.path(s("later"))));
+        QTest::qWait(50);
+        QVERIFY(QDir().mkpath(m->host.path(s("later/sets"))));
+        m->host.write(s("later/sets/Late.hsx"), "<VelHotkeyTransformations/>");
+        QTRY_VERIFY(m->listedSets().contains(s("Late")));
+        QVERIFY(QDir(m->host.path(s("later"))).removeRecursively());
+        QTRY_VERIFY(!m->listedSets().contains(s("Late")));
+    }
+    QCOMPARE(m->chosenSet(), s("Mine"));
+}
+
+// No set is loaded, and none may look so, or be loaded, because the list has changed.
+void TestHotkeyEditorSets::refreshesWithoutChoosing()
+{
+    m->close();
+    m->host.paths()->currentSet.clear();
+    m->open();
+    edit();
+    DialogDriver dialogs;
+    m->editor->setPresetComboBoxItemIcon(QIcon());
+    QCOMPARE(sets()->currentIndex(), -1);
+    m->refreshList();
+    QCOMPARE(sets()->currentIndex(), -1);
+    m->host.write(s("shipped/aaa.hsx"), "<VelHotkeyTransformations Description='Aaa'/>");
+    m->host.write(s("user/Yed.hsx"), "<VelHotkeyTransformations/>");
+    QTRY_VERIFY(m->listedSets().contains(s("Yed")));
+    QCOMPARE(sets()->currentIndex(), -1);
+    QCOMPARE(m->host.paths()->currentSet, QString());
+    QVERIFY(dialogs.check());
+    dialogs.expectBox(s("Unsaved Changes"), QMessageBox::Discard);
+    m->chooseSet(s("Aaa")); // the first of the list can be chosen
+    QVERIFY(dialogs.check());
+    QVERIFY(m->host.paths()->currentSet.endsWith(s("aaa.hsx")));
 }
 
 void TestHotkeyEditorSets::showsNamesAsTyped()
@@ -480,6 +444,80 @@ void TestHotkeyEditorSets::opensOverUnsavedEdits()
     QVERIFY(second.maybeSaveChanges());
     QVERIFY(dialogs.check());
     QVERIFY(!second.isModified() && !m->editor->isModified());
+}
+
+void TestHotkeyEditorSets::mayGoWhileItAsks_data()
+{
+    using H = EditorHarness;
+    using D = DialogDriver;
+    using End = DialogDriver::Answer;
+    QTest::addColumn<Opening>("open");
+    const auto add = [](const char *name, const Opening &open) { QTest::newRow(name) << open; };
+    add("another set", [](H &h, D &dialogs, const End &end) {
+        dialogs.expect(end);
+        h.chooseSet(s("Other"));
+    });
+    add("missing set", [](H &h, D &dialogs, const End &end) {
+        QFile::remove(h.otherSet);
+        dialogs.expectBox(s("Unsaved Changes"), QMessageBox::Discard).expect(end);
+        h.chooseSet(s("Other"));
+    });
+    add("save", [](H &h, D &dialogs, const End &end) {
+        dialogs.expect(end);
+        QVERIFY(!h.editor->maybeSaveChanges());
+    });
+    add("reset", [](H &h, D &dialogs, const End &end) {
+        dialogs.expect(end);
+        h.triggerOption(s("Reset"));
+    });
+    add("vanished set", [](H &h, D &dialogs, const End &end) {
+        QFile::remove(h.userSet);
+        dialogs.expect(end);
+        QVERIFY(!h.editor->maybeDiscardChanges());
+    });
+    add("save elsewhere", [](H &h, D &dialogs, const End &end) {
+        QFile::remove(h.userSet);
+        dialogs.expectBox(s("File not Found"), QMessageBox::Save).expect(end);
+        QVERIFY(!h.editor->maybeSaveChanges());
+    });
+    add("save as", [](H &h, D &dialogs, const End &end) {
+        dialogs.expect(end);
+        QFile::remove(h.userSet);
+        h.click("HotkeyEditor_toolButtonSavePreset");
+    });
+    add("load", [](H &h, D &dialogs, const End &end) {
+        dialogs.expectFile(s("Load Hotkey Set"), h.otherSet).expect(end);
+        h.triggerOption(s("Load From File..."));
+    });
+    add("not loaded", [](H &h, D &dialogs, const End &end) {
+        QFile::remove(h.userSet);
+        dialogs.expect(end);
+        h.editor->discardChanges();
+    });
+    add("validate", [](H &h, D &dialogs, const End &end) {
+        dialogs.expectFile(s("Validate Shortcut File"), h.userSet).expect(end);
+        h.editor->validateShortcutFile();
+    });
+    for (const char *keys : {"<Other/>", "<VLSK_KBD/>"}) {
+        add(keys, [keys](H &h, D &dialogs, const End &end) {
+            h.host.write(s("legacy/LegacyDefaultUI-2019.kbdx"), "<VLSK_KBD/>");
+            dialogs.expectFile(s("Convert Legacy Hotkeys"), h.host.write(s("k.kbdx"), keys))
+                    .expectBox(s("Unsaved Changes"), QMessageBox::Discard)
+                    .expect(end);
+            h.triggerOption(s("Import Legacy Hotkeys..."));
+        });
+    }
+}
+
+// The host may close its dialog, or end, at any time.
+void TestHotkeyEditorSets::mayGoWhileItAsks()
+{
+    QFETCH(Opening, open);
+    edit();
+    DialogDriver dialogs;
+    open(*m, dialogs, [this](QWidget *) { m->editor.reset(); });
+    QVERIFY(dialogs.check());
+    QVERIFY(m->editor == nullptr);
 }
 
 QTEST_MAIN(TestHotkeyEditorSets)

@@ -120,6 +120,8 @@ void TestHotkeyRecorder::captures()
     QCOMPARE(capture.modifiers, int(modifiers & (shift | ctrl | alt)));
     QCOMPARE(HotkeyRecorder::text(capture),
              QKeySequence(capture.combination).toString(QKeySequence::NativeText));
+    QVERIFY(HotkeyRecorder::wayOut(press(key, modifiers, virtualKey))
+            == HotkeyRecorder::WayOut::None);
 }
 
 void TestHotkeyRecorder::refuses_data()
@@ -128,10 +130,13 @@ void TestHotkeyRecorder::refuses_data()
     QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
     QTest::addColumn<int>("virtualKey");
     QTest::addColumn<QString>("shown");
+    QTest::addColumn<int>("wayOut");
 
+    using HotkeyRecorder::WayOut;
     const auto row = [](const char *name, int key, Qt::KeyboardModifiers modifiers, int virtualKey,
-                        const char *shown = "") {
-        QTest::newRow(name) << key << modifiers << virtualKey << QString::fromLatin1(shown);
+                        const char *shown = "", WayOut wayOut = WayOut::None) {
+        QTest::newRow(name) << key << modifiers << virtualKey << QString::fromLatin1(shown)
+                            << int(wayOut);
     };
     row("Escape", Qt::Key_Escape, none, 27);
     row("Ctrl+Escape", Qt::Key_Escape, ctrl, 27, "Ctrl+");
@@ -142,11 +147,11 @@ void TestHotkeyRecorder::refuses_data()
     row("Pause", Qt::Key_Pause, none, 19);
     row("Num Lock", Qt::Key_NumLock, none, 144);
     row("Scroll Lock", Qt::Key_ScrollLock, ctrl | alt, 145, "Ctrl+Alt+");
-    row("Ctrl+Tab", Qt::Key_Tab, ctrl, 9, "Ctrl+");
-    row("Ctrl+Backtab", Qt::Key_Backtab, ctrl, 9, "Ctrl+");
-    row("Ctrl+Shift+Backtab", Qt::Key_Backtab, ctrl | shift, 9, "Ctrl+Shift+");
-    row("Ctrl+Shift+Tab", Qt::Key_Tab, ctrl | shift, 9, "Ctrl+Shift+");
-    row("Ctrl+Meta+Tab", Qt::Key_Tab, ctrl | meta, 9, "Ctrl+");
+    row("Ctrl+Tab", Qt::Key_Tab, ctrl, 9, "Ctrl+", WayOut::Next);
+    row("Ctrl+Backtab", Qt::Key_Backtab, ctrl, 9, "Ctrl+", WayOut::Previous);
+    row("Ctrl+Shift+Backtab", Qt::Key_Backtab, ctrl | shift, 9, "Ctrl+Shift+", WayOut::Previous);
+    row("Ctrl+Shift+Tab", Qt::Key_Tab, ctrl | shift, 9, "Ctrl+Shift+", WayOut::Previous);
+    row("Ctrl+Meta+Tab", Qt::Key_Tab, ctrl | meta, 9, "Ctrl+", WayOut::Next);
     row("F25", Qt::Key_F25, none, 0);
     row("menu key", Qt::Key_Menu, ctrl, 93, "Ctrl+");
     row("volume key", Qt::Key_VolumeUp, none, 175);
@@ -171,6 +176,7 @@ void TestHotkeyRecorder::refuses()
             HotkeyRecorder::capture(press(key, modifiers, virtualKey));
     QCOMPARE(capture.combination, 0);
     QTEST(HotkeyRecorder::text(capture), "shown");
+    QTEST(int(HotkeyRecorder::wayOut(press(key, modifiers, virtualKey))), "wayOut");
 }
 
 void TestHotkeyRecorder::writesEachPressToTheLog()

@@ -380,6 +380,15 @@ void TestPresetComboBox::translatesTheMarker()
     MarkerTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
     QVERIFY(box.marker().width() < untranslated / 2);
+
+    // It is read out, too.
+    QApplication::sendPostedEvents();
+    QCOMPARE(box.accessibleDescription(), s("!!"));
+    QCoreApplication::removeTranslator(&translator);
+    QApplication::sendPostedEvents();
+    QCOMPARE(box.accessibleDescription(), s("[Unsaved Changes*]"));
+    box.setCurPresetModified(false);
+    QVERIFY(box.accessibleDescription().isEmpty());
 }
 
 void TestPresetComboBox::showsToolTipsAsPlainText_data()

@@ -20,31 +20,31 @@
     </message>
     <message>
         <source>Save, load...</source>
-        <translation>Here you can save, load, reset or import hotkey sets.</translation>
+        <translation>Saves, loads, resets or imports hotkey sets.</translation>
     </message>
     <message>
         <source>Change the active...</source>
-        <translation>Changes the active hotkey set.</translation>
+        <translation>Changes which hotkey set is active.</translation>
     </message>
     <message>
         <source>Filter the list... assigned</source>
-        <translation>Filters the list of actions by whether their hotkeys are assigned, customized or not saved yet.</translation>
+        <translation>Filters the list of actions by the state of their hotkeys: assigned, customized or not saved yet.</translation>
     </message>
     <message>
         <source>Filter the list...context</source>
-        <translation>Filters the list of actions by the group that they belong to.</translation>
+        <translation>Filters the list of actions by the group they belong to.</translation>
     </message>
     <message>
         <source>Press keys and modifiers...</source>
-        <translation>Type a part of the action&apos;s name or, when you search by hotkeys, press the keys and modifiers you are looking for.</translation>
+        <translation>Type part of the action&apos;s name or, when searching by hotkey, press the keys and modifiers you are looking for.</translation>
     </message>
     <message>
         <source>Search will be... hotkey</source>
-        <translation>The search will be by hotkey: press the keys and modifiers you are looking for.</translation>
+        <translation>Searches by hotkey: press the keys and modifiers you are looking for.</translation>
     </message>
     <message>
         <source>Search will be... action</source>
-        <translation>The search will be by action: type a part of its name.</translation>
+        <translation>Searches by action: type part of its name.</translation>
     </message>
     <message>
         <source>Press keys and... assign</source>
@@ -56,7 +56,7 @@
     </message>
     <message>
         <source>Reassign the hotkey...</source>
-        <translation>Assigns the hotkey again to the action that it was removed from.</translation>
+        <translation>Reassigns the hotkey to the action it was removed from.</translation>
     </message>
     <message>
         <source>Removes the assignment...</source>

@@ -5,11 +5,11 @@
     <name>CUI</name>
     <message>
         <source>Velstudio Default Keyset</source>
-        <translation>Velstudio-Standardtastenbelegung</translation>
+        <translation>Velstudio-Standardtastenkürzel</translation>
     </message>
     <message>
         <source>Zarvi Default Keyset</source>
-        <translation>Zarvi-Standardtastenbelegung</translation>
+        <translation>Zarvi-Standardtastenkürzel</translation>
     </message>
 </context>
 <context>
@@ -72,11 +72,11 @@
     <name>CUI::QvelShortcutManager</name>
     <message>
         <source>Add</source>
-        <translation>Hinzufügen von</translation>
+        <translation>Hinzufügen:</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Entfernen von</translation>
+        <translation>Entfernen:</translation>
     </message>
     <message>
         <source>to</source>
@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>from</source>
-        <translation>aus</translation>
+        <translation>von</translation>
     </message>
 </context>
 <context>
@@ -191,7 +191,7 @@ Entfernen Sie eines davon, bevor Sie ein weiteres zuweisen.
     </message>
     <message>
         <source>Filter the list... assigned</source>
-        <translation>Filtert die Liste der Aktionen danach, ob ihre Tastenkürzel zugewiesen, angepasst oder noch nicht gespeichert sind.</translation>
+        <translation>Filtert die Liste der Aktionen nach dem Zustand ihrer Tastenkürzel: zugewiesen, angepasst oder noch nicht gespeichert.</translation>
     </message>
     <message>
         <source>Group:</source>
@@ -207,7 +207,7 @@ Entfernen Sie eines davon, bevor Sie ein weiteres zuweisen.
     </message>
     <message>
         <source>Press keys and modifiers...</source>
-        <translation>Geben Sie einen Teil des Aktionsnamens ein oder drücken Sie bei der Suche nach Tastenkürzeln die gesuchte Tastenkombination.</translation>
+        <translation>Geben Sie einen Teil des Aktionsnamens ein. Bei der Suche nach Tastenkürzeln drücken Sie das gesuchte Tastenkürzel.</translation>
     </message>
     <message>
         <source>Hotkeys</source>
@@ -215,7 +215,7 @@ Entfernen Sie eines davon, bevor Sie ein weiteres zuweisen.
     </message>
     <message>
         <source>Search will be... hotkey</source>
-        <translation>Sucht nach Tastenkürzeln: Drücken Sie die gesuchte Tastenkombination.</translation>
+        <translation>Sucht nach Tastenkürzeln: Drücken Sie das gesuchte Tastenkürzel.</translation>
     </message>
     <message>
         <source>Actions</source>
@@ -231,7 +231,7 @@ Entfernen Sie eines davon, bevor Sie ein weiteres zuweisen.
     </message>
     <message>
         <source>Press keys and... assign</source>
-        <translation>Drücken Sie die Tastenkombination, die Sie der ausgewählten Aktion zuweisen möchten.</translation>
+        <translation>Drücken Sie das Tastenkürzel, das Sie der ausgewählten Aktion zuweisen möchten.</translation>
     </message>
     <message>
         <source>Press keys...</source>
@@ -267,7 +267,7 @@ Entfernen Sie eines davon, bevor Sie ein weiteres zuweisen.
     </message>
     <message>
         <source>Removes the assignment...</source>
-        <translation>Entfernt das Tastenkürzel von der Aktion, die es derzeit hat, damit Sie es der ausgewählten zuweisen können.</translation>
+        <translation>Entfernt das Tastenkürzel von der Aktion, der es derzeit zugewiesen ist, damit Sie es der ausgewählten zuweisen können.</translation>
     </message>
     <message>
         <source>Validate Shortcut File</source>
@@ -304,7 +304,7 @@ Entfernen Sie eines davon, bevor Sie ein weiteres zuweisen.
     <message>
         <source>Save your changes, discard them, or cancel to continue making changes.
 </source>
-        <translation>Speichern Sie Ihre Änderungen, verwerfen Sie sie oder brechen Sie ab, um weitere Änderungen vorzunehmen.
+        <translation>Speichern oder verwerfen Sie Ihre Änderungen, oder brechen Sie ab, um weitere Änderungen vorzunehmen.
 </translation>
     </message>
     <message>
@@ -314,7 +314,7 @@ Entfernen Sie eines davon, bevor Sie ein weiteres zuweisen.
     <message>
         <source>Reset to discard all unsaved changes.
 </source>
-        <translation>Durch das Zurücksetzen werden alle nicht gespeicherten Änderungen verworfen.
+        <translation>Beim Zurücksetzen werden alle nicht gespeicherten Änderungen verworfen.
 </translation>
     </message>
     <message>
@@ -328,7 +328,7 @@ You can either preserve the loaded hotkeys by saving them to a file or reset to 
 </source>
         <translation>Die Datei für den Tastenkürzelsatz „%1“ wurde nicht gefunden.
 
-Sie können die geladenen Tastenkürzel behalten, indem Sie sie in einer Datei speichern, oder sie auf den Standardsatz zurücksetzen.
+Sie können die geladenen Tastenkürzel in einer Datei speichern, um sie zu behalten, oder sie auf den Standardsatz zurücksetzen.
 </translation>
     </message>
     <message>
@@ -349,7 +349,7 @@ Der fehlende Satz wird aus der Liste entfernt.
         <source>%1 already exists in the User Customization folder.
 
 Do you want to replace it?</source>
-        <translation>%1 ist im Ordner für Benutzeranpassungen bereits vorhanden.
+        <translation>%1 ist in Ihrem Ordner für Benutzereinstellungen bereits vorhanden.
 
 Möchten Sie die Datei ersetzen?</translation>
     </message>
@@ -359,7 +359,7 @@ Möchten Sie die Datei ersetzen?</translation>
     </message>
     <message>
         <source>Cannot overwrite a locked preset file!</source>
-        <translation>Eine gesperrte Preset-Datei kann nicht überschrieben werden!</translation>
+        <translation>Ein gesperrter Tastenkürzelsatz kann nicht überschrieben werden.</translation>
     </message>
     <message>
         <source>The hotkeys cannot be saved to %1.
@@ -441,7 +441,7 @@ Weitere Einzelheiten finden Sie im Protokoll.</translation>
     </message>
     <message>
         <source>Convert Legacy Hotkeys</source>
-        <translation>Ältere Tastenkürzel konvertieren</translation>
+        <translation>Tastenkürzel aus älterer Version konvertieren</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts (*.%1)</source>
@@ -461,11 +461,15 @@ Weitere Einzelheiten finden Sie im Protokoll.</translation>
     </message>
     <message>
         <source>Import Legacy Hotkeys...</source>
-        <translation>Ältere Tastenkürzel importieren...</translation>
+        <translation>Tastenkürzel aus älterer Version importieren...</translation>
     </message>
     <message>
         <source>Shortcut Transformation List</source>
         <translation>Liste der Tastenkürzeländerungen</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
     </message>
 </context>
 </TS>

@@ -43,7 +43,7 @@
     </message>
     <message>
         <source>Successfully removed</source>
-        <translation>Suppression réussie</translation>
+        <translation>Raccourci supprimé</translation>
     </message>
 </context>
 <context>
@@ -187,11 +187,11 @@ Supprimez-en un avant d’en attribuer un autre.
     </message>
     <message>
         <source>Change the active...</source>
-        <translation>Change le jeu de raccourcis actif.</translation>
+        <translation>Permet de changer de jeu de raccourcis.</translation>
     </message>
     <message>
         <source>Filter the list... assigned</source>
-        <translation>Filtre la liste des actions selon que leurs raccourcis sont attribués, personnalisés ou non enregistrés.</translation>
+        <translation>Filtre la liste des actions selon l’état de leurs raccourcis&#xa0;: attribués, personnalisés ou non enregistrés.</translation>
     </message>
     <message>
         <source>Group:</source>
@@ -207,7 +207,7 @@ Supprimez-en un avant d’en attribuer un autre.
     </message>
     <message>
         <source>Press keys and modifiers...</source>
-        <translation>Saisissez une partie du nom de l’action ou, pour une recherche par raccourci, appuyez sur la combinaison de touches recherchée.</translation>
+        <translation>Saisissez une partie du nom de l’action ou, pour une recherche par raccourci, appuyez sur les touches du raccourci recherché.</translation>
     </message>
     <message>
         <source>Hotkeys</source>
@@ -215,7 +215,7 @@ Supprimez-en un avant d’en attribuer un autre.
     </message>
     <message>
         <source>Search will be... hotkey</source>
-        <translation>Recherche par raccourci&#xa0;: appuyez sur la combinaison de touches recherchée.</translation>
+        <translation>Recherche par raccourci&#xa0;: appuyez sur les touches du raccourci recherché.</translation>
     </message>
     <message>
         <source>Actions</source>
@@ -231,7 +231,7 @@ Supprimez-en un avant d’en attribuer un autre.
     </message>
     <message>
         <source>Press keys and... assign</source>
-        <translation>Appuyez sur la combinaison de touches à attribuer à l’action sélectionnée.</translation>
+        <translation>Appuyez sur les touches du raccourci à attribuer à l’action sélectionnée.</translation>
     </message>
     <message>
         <source>Press keys...</source>
@@ -328,7 +328,7 @@ You can either preserve the loaded hotkeys by saving them to a file or reset to 
 </source>
         <translation>Le fichier du jeu de raccourcis «&#xa0;%1&#xa0;» est introuvable.
 
-Vous pouvez conserver les raccourcis chargés en les enregistrant dans un fichier, ou rétablir le jeu de raccourcis par défaut.
+Vous pouvez conserver les raccourcis chargés en les enregistrant dans un fichier, ou réinitialiser pour revenir au jeu de raccourcis par défaut.
 </translation>
     </message>
     <message>
@@ -349,7 +349,7 @@ Le jeu manquant sera retiré de la liste.
         <source>%1 already exists in the User Customization folder.
 
 Do you want to replace it?</source>
-        <translation>%1 existe déjà dans le dossier de personnalisation de l’utilisateur.
+        <translation>%1 existe déjà dans le dossier de vos paramètres utilisateur.
 
 Voulez-vous le remplacer&#xa0;?</translation>
     </message>
@@ -359,7 +359,7 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Cannot overwrite a locked preset file!</source>
-        <translation>Impossible de remplacer un fichier de préréglage verrouillé&#xa0;!</translation>
+        <translation>Impossible de remplacer un jeu de raccourcis verrouillé.</translation>
     </message>
     <message>
         <source>The hotkeys cannot be saved to %1.
@@ -441,7 +441,7 @@ Consultez le journal pour plus de détails.</translation>
     </message>
     <message>
         <source>Convert Legacy Hotkeys</source>
-        <translation>Convertir d’anciens raccourcis</translation>
+        <translation>Convertir les raccourcis d’une version antérieure</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts (*.%1)</source>
@@ -461,11 +461,15 @@ Consultez le journal pour plus de détails.</translation>
     </message>
     <message>
         <source>Import Legacy Hotkeys...</source>
-        <translation>Importer d’anciens raccourcis...</translation>
+        <translation>Importer les raccourcis d’une version antérieure...</translation>
     </message>
     <message>
         <source>Shortcut Transformation List</source>
         <translation>Liste des modifications de raccourcis</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>Impossible d’ouvrir le fichier.</translation>
     </message>
 </context>
 </TS>

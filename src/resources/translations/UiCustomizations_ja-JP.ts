@@ -103,7 +103,7 @@
     </message>
     <message>
         <source>Customized Hotkeys Only</source>
-        <translation>カスタマイズしたホットキーのみ</translation>
+        <translation>カスタマイズ済みのホットキーのみ</translation>
     </message>
     <message>
         <source>Unsaved Hotkeys Only</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Type to search by Actions...</source>
-        <translation>アクションで検索...</translation>
+        <translation>アクション名で検索...</translation>
     </message>
     <message>
         <source>Type to search...</source>
@@ -191,7 +191,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Filter the list... assigned</source>
-        <translation>ホットキーの状態（割り当て済み、カスタマイズ、未保存）でアクションのリストを絞り込みます。</translation>
+        <translation>ホットキーの状態（割り当て済み、カスタマイズ済み、未保存）でアクションのリストを絞り込みます。</translation>
     </message>
     <message>
         <source>Group:</source>
@@ -207,7 +207,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Press keys and modifiers...</source>
-        <translation>アクション名の一部を入力します。ホットキーで検索するときは、探しているキーの組み合わせを押します。</translation>
+        <translation>アクション名の一部を入力してください。ホットキーで検索するときは、探しているホットキーを押してください。</translation>
     </message>
     <message>
         <source>Hotkeys</source>
@@ -215,7 +215,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Search will be... hotkey</source>
-        <translation>ホットキーで検索します。探しているキーの組み合わせを押してください。</translation>
+        <translation>ホットキーで検索します。探しているホットキーを押してください。</translation>
     </message>
     <message>
         <source>Actions</source>
@@ -223,7 +223,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Search will be... action</source>
-        <translation>アクションで検索します。名前の一部を入力してください。</translation>
+        <translation>アクション名で検索します。名前の一部を入力してください。</translation>
     </message>
     <message>
         <source>Type new hotkey...</source>
@@ -231,11 +231,11 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Press keys and... assign</source>
-        <translation>選択したアクションに割り当てるキーの組み合わせを押してください。</translation>
+        <translation>選択したアクションに割り当てるホットキーを押してください。</translation>
     </message>
     <message>
         <source>Press keys...</source>
-        <translation>キーを押す...</translation>
+        <translation>キーを押してください...</translation>
     </message>
     <message>
         <source>Assign</source>
@@ -267,7 +267,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Removes the assignment...</source>
-        <translation>現在使用しているアクションからホットキーを削除し、選択したアクションに割り当てられるようにします。</translation>
+        <translation>このホットキーを現在使用しているアクションから削除し、選択したアクションに割り当てられるようにします。</translation>
     </message>
     <message>
         <source>Validate Shortcut File</source>
@@ -328,7 +328,7 @@ You can either preserve the loaded hotkeys by saving them to a file or reset to 
 </source>
         <translation>ホットキーセット「%1」のファイルが見つかりません。
 
-読み込まれているホットキーをファイルに保存して残すか、デフォルトのホットキーセットにリセットすることができます。
+読み込まれているホットキーをファイルに保存して残すか、デフォルトのホットキーセットにリセットできます。
 </translation>
     </message>
     <message>
@@ -349,7 +349,7 @@ The missing set will be removed from the list.
         <source>%1 already exists in the User Customization folder.
 
 Do you want to replace it?</source>
-        <translation>%1 はユーザーカスタマイズフォルダーに既に存在します。
+        <translation>%1 はユーザー設定フォルダーに既に存在します。
 
 置き換えますか？</translation>
     </message>
@@ -359,7 +359,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Cannot overwrite a locked preset file!</source>
-        <translation>ロックされたプリセットファイルは上書きできません。</translation>
+        <translation>ロックされたホットキーセットは上書きできません。</translation>
     </message>
     <message>
         <source>The hotkeys cannot be saved to %1.
@@ -445,7 +445,7 @@ See the log for more details.</source>
     </message>
     <message>
         <source>Keyboard Shortcuts (*.%1)</source>
-        <translation>キーボードのホットキー (*.%1)</translation>
+        <translation>ホットキー (*.%1)</translation>
     </message>
     <message>
         <source>Import</source>
@@ -466,6 +466,10 @@ See the log for more details.</source>
     <message>
         <source>Shortcut Transformation List</source>
         <translation>ホットキー変更リスト</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>ファイルを開けません。</translation>
     </message>
 </context>
 </TS>

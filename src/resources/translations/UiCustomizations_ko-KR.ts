@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Type to search by Actions...</source>
-        <translation>동작으로 검색...</translation>
+        <translation>동작 이름으로 검색...</translation>
     </message>
     <message>
         <source>Type to search...</source>
@@ -187,7 +187,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Change the active...</source>
-        <translation>사용할 단축키 세트를 변경합니다.</translation>
+        <translation>사용할 단축키 세트를 선택합니다.</translation>
     </message>
     <message>
         <source>Filter the list... assigned</source>
@@ -199,7 +199,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Filter the list...context</source>
-        <translation>동작이 속한 그룹에 따라 동작 목록을 필터링합니다.</translation>
+        <translation>동작 목록을 그룹별로 필터링합니다.</translation>
     </message>
     <message>
         <source>Filter:</source>
@@ -207,7 +207,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Press keys and modifiers...</source>
-        <translation>동작 이름의 일부를 입력하십시오. 단축키로 검색할 때는 찾으려는 키 조합을 누르십시오.</translation>
+        <translation>동작 이름의 일부를 입력하십시오. 단축키로 검색할 때는 찾으려는 단축키를 누르십시오.</translation>
     </message>
     <message>
         <source>Hotkeys</source>
@@ -215,7 +215,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Search will be... hotkey</source>
-        <translation>단축키로 검색합니다. 찾으려는 키 조합을 누르십시오.</translation>
+        <translation>단축키로 검색합니다. 찾으려는 단축키를 누르십시오.</translation>
     </message>
     <message>
         <source>Actions</source>
@@ -223,7 +223,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Search will be... action</source>
-        <translation>동작으로 검색합니다. 이름의 일부를 입력하십시오.</translation>
+        <translation>동작 이름으로 검색합니다. 이름의 일부를 입력하십시오.</translation>
     </message>
     <message>
         <source>Type new hotkey...</source>
@@ -231,11 +231,11 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Press keys and... assign</source>
-        <translation>선택한 동작에 할당할 키 조합을 누르십시오.</translation>
+        <translation>선택한 동작에 할당할 단축키를 누르십시오.</translation>
     </message>
     <message>
         <source>Press keys...</source>
-        <translation>키 누르기...</translation>
+        <translation>키를 누르십시오...</translation>
     </message>
     <message>
         <source>Assign</source>
@@ -251,7 +251,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Reassign the hotkey...</source>
-        <translation>단축키를 제거했던 동작에 다시 할당합니다.</translation>
+        <translation>단축키를 원래 동작에 다시 할당합니다.</translation>
     </message>
     <message>
         <source>Removed from:</source>
@@ -267,7 +267,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Removes the assignment...</source>
-        <translation>현재 사용 중인 동작에서 단축키를 제거하여 선택한 동작에 할당할 수 있게 합니다.</translation>
+        <translation>이 단축키를 현재 사용 중인 동작에서 제거하여 선택한 동작에 할당할 수 있게 합니다.</translation>
     </message>
     <message>
         <source>Validate Shortcut File</source>
@@ -304,7 +304,7 @@ Remove one of them before you assign another.
     <message>
         <source>Save your changes, discard them, or cancel to continue making changes.
 </source>
-        <translation>변경 사항을 저장하거나 버리십시오. 계속 변경하려면 취소하십시오.
+        <translation>변경 사항을 저장하거나 무시할 수 있습니다. 계속 변경하려면 취소하십시오.
 </translation>
     </message>
     <message>
@@ -349,7 +349,7 @@ The missing set will be removed from the list.
         <source>%1 already exists in the User Customization folder.
 
 Do you want to replace it?</source>
-        <translation>%1이(가) 사용자 지정 폴더에 이미 있습니다.
+        <translation>%1이(가) 사용자 설정 폴더에 이미 있습니다.
 
 바꾸시겠습니까?</translation>
     </message>
@@ -359,7 +359,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Cannot overwrite a locked preset file!</source>
-        <translation>잠긴 프리셋 파일은 덮어쓸 수 없습니다!</translation>
+        <translation>잠긴 단축키 세트는 덮어쓸 수 없습니다.</translation>
     </message>
     <message>
         <source>The hotkeys cannot be saved to %1.
@@ -417,11 +417,11 @@ See the log for more details.</source>
     </message>
     <message>
         <source>Xml File valid!! According to schema definition.</source>
-        <translation>XML 파일이 스키마 정의에 따라 유효합니다.</translation>
+        <translation>스키마 정의에 맞는 유효한 XML 파일입니다.</translation>
     </message>
     <message>
         <source>Xml File invalid!! According to schema definition.</source>
-        <translation>XML 파일이 스키마 정의에 따라 유효하지 않습니다.</translation>
+        <translation>스키마 정의에 맞지 않는 XML 파일입니다.</translation>
     </message>
     <message>
         <source>Hotkey Set File (*.%1)</source>
@@ -466,6 +466,10 @@ See the log for more details.</source>
     <message>
         <source>Shortcut Transformation List</source>
         <translation>단축키 변경 목록</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>파일을 열 수 없습니다.</translation>
     </message>
 </context>
 </TS>

@@ -5,11 +5,11 @@
     <name>CUI</name>
     <message>
         <source>Velstudio Default Keyset</source>
-        <translation>Conjunto de atalhos padrão Velstudio</translation>
+        <translation>Conjunto de atalhos padrão do Velstudio</translation>
     </message>
     <message>
         <source>Zarvi Default Keyset</source>
-        <translation>Conjunto de atalhos padrão Zarvi</translation>
+        <translation>Conjunto de atalhos padrão do Zarvi</translation>
     </message>
 </context>
 <context>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Too Many Hotkeys</source>
-        <translation>Atalhos demais</translation>
+        <translation>Limite de atalhos atingido</translation>
     </message>
     <message>
         <source>An action can have at most %1 hotkeys.
@@ -187,11 +187,11 @@ Remova um deles antes de atribuir outro.
     </message>
     <message>
         <source>Change the active...</source>
-        <translation>Muda o conjunto de atalhos ativo.</translation>
+        <translation>Seleciona o conjunto de atalhos ativo.</translation>
     </message>
     <message>
         <source>Filter the list... assigned</source>
-        <translation>Filtra a lista de ações conforme seus atalhos estejam atribuídos, personalizados ou não salvos.</translation>
+        <translation>Filtra a lista de ações pelo estado de seus atalhos: atribuídos, personalizados ou ainda não salvos.</translation>
     </message>
     <message>
         <source>Group:</source>
@@ -207,7 +207,7 @@ Remova um deles antes de atribuir outro.
     </message>
     <message>
         <source>Press keys and modifiers...</source>
-        <translation>Digite parte do nome da ação ou, na pesquisa por atalhos, pressione a combinação de teclas procurada.</translation>
+        <translation>Digite parte do nome da ação ou, na pesquisa por atalhos, pressione as teclas do atalho procurado.</translation>
     </message>
     <message>
         <source>Hotkeys</source>
@@ -215,7 +215,7 @@ Remova um deles antes de atribuir outro.
     </message>
     <message>
         <source>Search will be... hotkey</source>
-        <translation>Pesquisa por atalho: pressione a combinação de teclas procurada.</translation>
+        <translation>Pesquisa por atalho: pressione as teclas do atalho procurado.</translation>
     </message>
     <message>
         <source>Actions</source>
@@ -223,7 +223,7 @@ Remova um deles antes de atribuir outro.
     </message>
     <message>
         <source>Search will be... action</source>
-        <translation>Pesquisa por ação: digite parte do nome dela.</translation>
+        <translation>Pesquisa por ação: digite parte do nome da ação.</translation>
     </message>
     <message>
         <source>Type new hotkey...</source>
@@ -231,7 +231,7 @@ Remova um deles antes de atribuir outro.
     </message>
     <message>
         <source>Press keys and... assign</source>
-        <translation>Pressione a combinação de teclas que deseja atribuir à ação selecionada.</translation>
+        <translation>Pressione as teclas do atalho que deseja atribuir à ação selecionada.</translation>
     </message>
     <message>
         <source>Press keys...</source>
@@ -314,7 +314,7 @@ Remova um deles antes de atribuir outro.
     <message>
         <source>Reset to discard all unsaved changes.
 </source>
-        <translation>Redefina para descartar todas as alterações não salvas.
+        <translation>Ao redefinir, todas as alterações não salvas serão descartadas.
 </translation>
     </message>
     <message>
@@ -328,7 +328,7 @@ You can either preserve the loaded hotkeys by saving them to a file or reset to 
 </source>
         <translation>O arquivo do conjunto de atalhos “%1” não foi encontrado.
 
-Você pode preservar os atalhos carregados salvando-os em um arquivo ou voltar ao conjunto de atalhos padrão.
+Você pode preservar os atalhos carregados salvando-os em um arquivo ou redefini-los para o conjunto de atalhos padrão.
 </translation>
     </message>
     <message>
@@ -349,7 +349,7 @@ O conjunto ausente será removido da lista.
         <source>%1 already exists in the User Customization folder.
 
 Do you want to replace it?</source>
-        <translation>%1 já existe na pasta de personalização do usuário.
+        <translation>%1 já existe na sua pasta de configurações do usuário.
 
 Deseja substituí-lo?</translation>
     </message>
@@ -359,7 +359,7 @@ Deseja substituí-lo?</translation>
     </message>
     <message>
         <source>Cannot overwrite a locked preset file!</source>
-        <translation>Não é possível substituir um arquivo de predefinição bloqueado!</translation>
+        <translation>Não é possível substituir um conjunto de atalhos bloqueado.</translation>
     </message>
     <message>
         <source>The hotkeys cannot be saved to %1.
@@ -421,7 +421,7 @@ Consulte o log para obter mais detalhes.</translation>
     </message>
     <message>
         <source>Xml File invalid!! According to schema definition.</source>
-        <translation>O arquivo XML é inválido de acordo com a definição do esquema.</translation>
+        <translation>O arquivo XML não é válido de acordo com a definição do esquema.</translation>
     </message>
     <message>
         <source>Hotkey Set File (*.%1)</source>
@@ -441,7 +441,7 @@ Consulte o log para obter mais detalhes.</translation>
     </message>
     <message>
         <source>Convert Legacy Hotkeys</source>
-        <translation>Converter atalhos antigos</translation>
+        <translation>Converter atalhos de versão anterior</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts (*.%1)</source>
@@ -457,15 +457,19 @@ Consulte o log para obter mais detalhes.</translation>
     </message>
     <message>
         <source>Load From File...</source>
-        <translation>Carregar do arquivo...</translation>
+        <translation>Carregar de um arquivo...</translation>
     </message>
     <message>
         <source>Import Legacy Hotkeys...</source>
-        <translation>Importar atalhos antigos...</translation>
+        <translation>Importar atalhos de versão anterior...</translation>
     </message>
     <message>
         <source>Shortcut Transformation List</source>
         <translation>Lista de alterações de atalhos</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>Não é possível abrir o arquivo.</translation>
     </message>
 </context>
 </TS>

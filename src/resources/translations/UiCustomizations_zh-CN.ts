@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Type to search by Actions...</source>
-        <translation>按操作搜索...</translation>
+        <translation>按操作名称搜索...</translation>
     </message>
     <message>
         <source>Type to search...</source>
@@ -171,7 +171,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Save changes...</source>
-        <translation>将更改保存到当前快捷键集；如果该集已锁定，则保存到新的快捷键集。</translation>
+        <translation>将更改保存到当前快捷键集；如果当前快捷键集已锁定，则保存到新的快捷键集。</translation>
     </message>
     <message>
         <source>Hotkey Set:</source>
@@ -199,7 +199,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Filter the list...context</source>
-        <translation>按所属的组过滤操作列表。</translation>
+        <translation>按操作所属的组过滤操作列表。</translation>
     </message>
     <message>
         <source>Filter:</source>
@@ -207,7 +207,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Press keys and modifiers...</source>
-        <translation>输入操作名称的一部分；按快捷键搜索时，请按下要查找的组合键。</translation>
+        <translation>输入操作名称的一部分；按快捷键搜索时，请按下要查找的快捷键。</translation>
     </message>
     <message>
         <source>Hotkeys</source>
@@ -215,7 +215,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Search will be... hotkey</source>
-        <translation>按快捷键搜索：请按下要查找的组合键。</translation>
+        <translation>按快捷键搜索：请按下要查找的快捷键。</translation>
     </message>
     <message>
         <source>Actions</source>
@@ -223,7 +223,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Search will be... action</source>
-        <translation>按操作搜索：请输入名称的一部分。</translation>
+        <translation>按操作名称搜索：请输入名称的一部分。</translation>
     </message>
     <message>
         <source>Type new hotkey...</source>
@@ -231,11 +231,11 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Press keys and... assign</source>
-        <translation>请按下要指定给所选操作的组合键。</translation>
+        <translation>请按下要指定给所选操作的快捷键。</translation>
     </message>
     <message>
         <source>Press keys...</source>
-        <translation>按下按键...</translation>
+        <translation>按下快捷键...</translation>
     </message>
     <message>
         <source>Assign</source>
@@ -255,7 +255,7 @@ Remove one of them before you assign another.
     </message>
     <message>
         <source>Removed from:</source>
-        <translation>已移除自：</translation>
+        <translation>已从以下操作移除：</translation>
     </message>
     <message>
         <source>Conflicts with:</source>
@@ -304,7 +304,7 @@ Remove one of them before you assign another.
     <message>
         <source>Save your changes, discard them, or cancel to continue making changes.
 </source>
-        <translation>请保存或放弃更改，也可以取消以继续进行更改。
+        <translation>请保存或丢弃更改，也可以取消以继续进行更改。
 </translation>
     </message>
     <message>
@@ -314,7 +314,7 @@ Remove one of them before you assign another.
     <message>
         <source>Reset to discard all unsaved changes.
 </source>
-        <translation>重置将放弃所有未保存的更改。
+        <translation>重置将丢弃所有未保存的更改。
 </translation>
     </message>
     <message>
@@ -328,7 +328,7 @@ You can either preserve the loaded hotkeys by saving them to a file or reset to 
 </source>
         <translation>找不到快捷键集“%1”的文件。
 
-您可以将已加载的快捷键保存到文件中，也可以重置为默认快捷键集。
+您可以将已加载的快捷键保存到文件以保留它们，也可以重置为默认快捷键集。
 </translation>
     </message>
     <message>
@@ -349,7 +349,7 @@ The missing set will be removed from the list.
         <source>%1 already exists in the User Customization folder.
 
 Do you want to replace it?</source>
-        <translation>用户自定义文件夹中已存在 %1。
+        <translation>用户设置文件夹中已存在 %1。
 
 要替换它吗？</translation>
     </message>
@@ -359,7 +359,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Cannot overwrite a locked preset file!</source>
-        <translation>无法覆盖已锁定的预设文件！</translation>
+        <translation>无法覆盖已锁定的快捷键集。</translation>
     </message>
     <message>
         <source>The hotkeys cannot be saved to %1.
@@ -368,7 +368,7 @@ Your changes are still here.
 </source>
         <translation>无法将快捷键保存到 %1。
 
-您的更改仍然保留。
+您的更改未丢失。
 </translation>
     </message>
     <message>
@@ -466,6 +466,10 @@ See the log for more details.</source>
     <message>
         <source>Shortcut Transformation List</source>
         <translation>快捷键更改列表</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>无法打开该文件。</translation>
     </message>
 </context>
 </TS>
