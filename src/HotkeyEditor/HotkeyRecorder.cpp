@@ -134,7 +134,7 @@ WayOut wayOut(const QKeyEvent &event)
     const int modifiers = heldModifiers(event, virtualKey);
     if (!leadsOut(keyOf(event, virtualKey), modifiers))
         return WayOut::None;
-    const bool isBack = event.key() == Qt::Key_Backtab || (modifiers & Qt::ShiftModifier) != 0;
+    const bool isBack = event.key() == Qt::Key_Backtab || (modifiers & int{Qt::ShiftModifier}) != 0;
     return isBack ? WayOut::Previous : WayOut::Next;
 }
 
