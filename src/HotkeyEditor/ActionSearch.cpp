@@ -33,14 +33,10 @@ void ActionSearch::searchByHotkeys()
 
 void ActionSearch::setKeyColumn(int column)
 {
-    // The search of the old kind ends under its own rules while its column still counts. The other
-    // way round the ranking of names would stay on during a search for hotkeys, and order actions
-    // of the same hotkey by how their names match its text; and the old text, sought in the other
-    // column, would take the selected row out of the list.
-    m_form.searchLineEdit->clear();
     m_proxy->setFilterKeyColumn(column);
     m_form.searchLineEdit->setAttribute(Qt::WA_InputMethodEnabled, !isByHotkeys());
     retranslate();
+    m_form.searchLineEdit->clear();
 }
 
 void ActionSearch::retranslate()

@@ -187,6 +187,16 @@ void EditorHarness::chooseSet(const QString &name) const
     comboBox->setCurrentIndex(comboBox->findText(name));
 }
 
+void EditorHarness::edit()
+{
+    manager.assignShortcut(bevel, QStringLiteral("F9"), QStringLiteral("Bevel"));
+}
+
+QString EditorHarness::hotkeys(const CUI::ActionIdentifier &id) const
+{
+    return manager.getShortcutsFromActionId(id);
+}
+
 QStringList EditorHarness::listedSets() const
 {
     const auto *comboBox = child<QComboBox>("HotkeyEditor_hotkeySetComboBox");

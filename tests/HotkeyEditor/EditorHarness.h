@@ -51,6 +51,9 @@ public:
     /// The text of the set that is chosen.
     QString chosenSet() const;
     void chooseSet(const QString &name) const;
+    /// An edit that is not in any set.
+    void edit();
+    QString hotkeys(const CUI::ActionIdentifier &id) const;
     /// The texts of all sets that can be chosen.
     QStringList listedSets() const;
     /// Lets another set, "Zed", appear, so that the list is made anew.

@@ -39,12 +39,6 @@ private Q_SLOTS:
     void validatesFiles();
 
 private:
-    void edit() { m->manager.assignShortcut(bevel, s("F9"), s("Bevel")); }
-    QByteArray contents(const QString &path) const { return TestHost::read(path); }
-    QString hotkeys(const CUI::ActionIdentifier &id) const
-    {
-        return m->manager.getShortcutsFromActionId(id);
-    }
     std::unique_ptr<EditorHarness> m;
 };
 
@@ -70,13 +64,13 @@ void TestHotkeyEditorFiles::loadsFromFile()
     m->triggerOption(s("Load From File..."));
     QVERIFY(dialogs.check());
     QCOMPARE(m->chosenSet(), s("Far Away"));
-    QCOMPARE(hotkeys(bevel), s("B, Q"));
-    QCOMPARE(hotkeys(box), s("B"));
+    QCOMPARE(m->hotkeys(bevel), s("B, Q"));
+    QCOMPARE(m->hotkeys(box), s("B"));
     QCOMPARE(m->host.paths()->currentSet, path);
     QVERIFY(!m->editor->isModified());
     m->chooseSet(s("Mine"));
     m->chooseSet(s("Far Away")); // it stays in the list
-    QCOMPARE(hotkeys(bevel), s("B, Q"));
+    QCOMPARE(m->hotkeys(bevel), s("B, Q"));
 }
 
 void TestHotkeyEditorFiles::reportsBadFile()
@@ -103,7 +97,7 @@ void TestHotkeyEditorFiles::reportsBadFile()
     QVERIFY2(reason.contains(s("Line: 1")) && reason.contains(s("<b>")), qPrintable(reason));
     QCOMPARE(plainTexts, 2);
     QVERIFY(offersLog);
-    QCOMPARE(hotkeys(box), s("B, F5"));
+    QCOMPARE(m->hotkeys(box), s("B, F5"));
     QCOMPARE(m->chosenSet(), s("Mine"));
 
     QVERIFY(QFile::remove(m->userSet)); // of which the log says nothing
@@ -119,7 +113,7 @@ void TestHotkeyEditorFiles::reportsBadFile()
 
 void TestHotkeyEditorFiles::cancelledDialogsChangeNothing()
 {
-    edit();
+    m->edit();
     const QStringList before = m->host.paths()->recorded;
     DialogDriver dialogs;
     for (const QString &path : {QString(), m->otherSet}) {
@@ -142,14 +136,14 @@ void TestHotkeyEditorFiles::cancelledDialogsChangeNothing()
     m->editor->saveShortcuts();
     QVERIFY(dialogs.check());
     QVERIFY(m->editor->isModified());
-    QCOMPARE(hotkeys(bevel), s("B, F9"));
+    QCOMPARE(m->hotkeys(bevel), s("B, F9"));
     QCOMPARE(m->host.paths()->recorded, before);
     QCOMPARE(m->chosenSet(), s("Mine"));
 }
 
 void TestHotkeyEditorFiles::leavesTheSetForBaseFile()
 {
-    const QByteArray before = contents(m->userSet);
+    const QByteArray before = TestHost::read(m->userSet);
     const QString base = m->host.write(
             s("other.hsxb"), "<VelHotkeys><Hotkey Shortcut='K' Id='1-box'/></VelHotkeys>");
     DialogDriver dialogs;
@@ -157,13 +151,13 @@ void TestHotkeyEditorFiles::leavesTheSetForBaseFile()
             .expectFile(s("Save Hotkey Set As"),
                         QString()); // not saved over the set without asking
     m->editor->loadShortcuts();
-    QCOMPARE(hotkeys(box), s("K"));
+    QCOMPARE(m->hotkeys(box), s("K"));
     QCOMPARE(m->chosenSet(), QString());
     QCOMPARE(m->host.paths()->currentSet, QString());
-    edit();
+    m->edit();
     m->triggerOption(s("Save"));
     QVERIFY(dialogs.check());
-    QCOMPARE(contents(m->userSet), before);
+    QCOMPARE(TestHost::read(m->userSet), before);
 }
 
 void TestHotkeyEditorFiles::savesBaseFile()
@@ -173,7 +167,7 @@ void TestHotkeyEditorFiles::savesBaseFile()
     dialogs.expectFile(s("Save Shortcuts"), base).expectReplacement();
     m->editor->saveShortcuts();
     QVERIFY(dialogs.check());
-    const QByteArray saved = contents(base);
+    const QByteArray saved = TestHost::read(base);
     QVERIFY(saved.contains("1-sphere"));
 
     m->manager.assignShortcut(sphere, QKeySequence(0x1A).toString(), s("Sphere"));
@@ -186,7 +180,7 @@ void TestHotkeyEditorFiles::savesBaseFile()
         m->editor->saveShortcuts();
     }
     QVERIFY(dialogs.check());
-    QCOMPARE(contents(base), saved);
+    QCOMPARE(TestHost::read(base), saved);
 }
 
 void TestHotkeyEditorFiles::importsLegacyFile()
@@ -205,7 +199,7 @@ void TestHotkeyEditorFiles::importsLegacyFile()
                  s("old keys.kbdx was successfully converted and loaded.\n\nThe "
                    "new file, old keys.hsx, is saved in your User Settings "
                    "folder."));
-        before = hotkeys(bevel);
+        before = m->hotkeys(bevel);
         QTest::mouseClick(messageBox->button(QMessageBox::Ok), Qt::LeftButton);
     });
     m->triggerOption(s("Import Legacy Hotkeys..."));
@@ -213,7 +207,7 @@ void TestHotkeyEditorFiles::importsLegacyFile()
     QCOMPARE(before, s("B"));
     QCOMPARE(converted.count(), 1);
     QVERIFY(converted.at(0).at(0).toBool());
-    QCOMPARE(hotkeys(bevel), s("B, Ctrl+Q"));
+    QCOMPARE(m->hotkeys(bevel), s("B, Ctrl+Q"));
     QCOMPARE(m->chosenSet(), s("old keys"));
     QCOMPARE(m->host.paths()->currentSet, m->host.paths()->userPresets + s("/old keys.hsx"));
     QCOMPARE(m->listedSets().count(s("old keys")), 1);
@@ -228,8 +222,8 @@ void TestHotkeyEditorFiles::asksBeforeReplacingOnImport()
     const QString in = m->host.write(s("Other.kbdx"), "<VLSK_KBD/>");
     const QString locked =
             m->host.write(s("user/Locked.hsx"), "<VelHotkeyTransformations Locked='true'/>");
-    const QByteArray before = contents(m->otherSet);
-    const QByteArray lockedBefore = contents(locked);
+    const QByteArray before = TestHost::read(m->otherSet);
+    const QByteArray lockedBefore = TestHost::read(locked);
     DialogDriver dialogs;
     dialogs.expectFile(s("Convert Legacy Hotkeys"), in)
             .expect([](QWidget *dialog) {
@@ -244,12 +238,12 @@ void TestHotkeyEditorFiles::asksBeforeReplacingOnImport()
             .expectBox(s("Hotkey File Already Exists"), QMessageBox::Yes)
             .expectBox(s("Hotkey File Converted"), QMessageBox::Ok);
     m->editor->selectFileForConversion();
-    QCOMPARE(contents(m->otherSet), before);
+    QCOMPARE(TestHost::read(m->otherSet), before);
     m->editor->selectFileForConversion();
-    QCOMPARE(contents(locked), lockedBefore);
+    QCOMPARE(TestHost::read(locked), lockedBefore);
     m->editor->selectFileForConversion();
     QVERIFY(dialogs.check());
-    QVERIFY(contents(m->otherSet) != before);
+    QVERIFY(TestHost::read(m->otherSet) != before);
 }
 
 // Something happens to the converted file before it is loaded.
@@ -267,7 +261,7 @@ void TestHotkeyEditorFiles::reportsUnreadableImport()
     m->editor->selectFileForConversion();
     QVERIFY(dialogs.check());
     QCOMPARE(m->chosenSet(), s("Mine"));
-    QCOMPARE(hotkeys(box), s("B, F5"));
+    QCOMPARE(m->hotkeys(box), s("B, F5"));
 }
 
 void TestHotkeyEditorFiles::reportsFailedImport_data()

@@ -90,12 +90,6 @@ private Q_SLOTS:
     void mayGoWhileItAsks();
 
 private:
-    void edit() { m->manager.assignShortcut(bevel, s("F9"), s("Bevel")); }
-    QByteArray contents(const QString &path) const { return TestHost::read(path); }
-    QString hotkeys(const CUI::ActionIdentifier &id) const
-    {
-        return m->manager.getShortcutsFromActionId(id);
-    }
     QComboBox *sets() const { return m->child<QComboBox>("HotkeyEditor_hotkeySetComboBox"); }
     std::unique_ptr<EditorHarness> m;
 };
@@ -116,12 +110,12 @@ void TestHotkeyEditorSets::switchesSets()
     DialogDriver dialogs;
     m->select(sphere);
     m->chooseSet(s("Other"));
-    QCOMPARE(hotkeys(box), QString());
+    QCOMPARE(m->hotkeys(box), QString());
     QCOMPARE(m->chosenSet(), s("Other"));
     QCOMPARE(m->host.paths()->currentSet, m->otherSet);
     QVERIFY(m->editor->currentAction() == nullptr);
     m->chooseSet(s("Default"));
-    QCOMPARE(hotkeys(box), s("B"));
+    QCOMPARE(m->hotkeys(box), s("B"));
     QVERIFY(m->editor->maybeSaveChanges()); // nothing to ask
     QVERIFY(dialogs.check());
 }
@@ -141,16 +135,16 @@ void TestHotkeyEditorSets::asksBeforeSwitching()
     QFETCH(int, answer);
     QFETCH(QString, chosen);
     QFETCH(bool, saved);
-    edit();
+    m->edit();
     DialogDriver dialogs;
     dialogs.expectBox(s("Unsaved Changes"), answer);
     m->chooseSet(s("Other"));
     QVERIFY(dialogs.check());
     QCOMPARE(m->chosenSet(), chosen);
-    QCOMPARE(contents(m->userSet).contains("F9"), saved);
+    QCOMPARE(TestHost::read(m->userSet).contains("F9"), saved);
     const bool cancelled = answer == QMessageBox::Cancel;
     QCOMPARE(m->editor->isModified(), cancelled);
-    QCOMPARE(hotkeys(bevel), cancelled ? s("B, F9") : s("B"));
+    QCOMPARE(m->hotkeys(bevel), cancelled ? s("B, F9") : s("B"));
     QCOMPARE(m->host.paths()->currentSet, cancelled ? m->userSet : m->otherSet);
 }
 
@@ -167,7 +161,7 @@ void TestHotkeyEditorSets::removesMissingSetFromTheList()
               "from the list.\n"));
     QCOMPARE(m->chosenSet(), s("Mine"));
     QCOMPARE(m->child<QComboBox>("HotkeyEditor_hotkeySetComboBox")->findText(s("Other")), -1);
-    QCOMPARE(hotkeys(box), s("B, F5"));
+    QCOMPARE(m->hotkeys(box), s("B, F5"));
 }
 
 void TestHotkeyEditorSets::refusesBrokenSet()
@@ -178,7 +172,7 @@ void TestHotkeyEditorSets::refusesBrokenSet()
     m->chooseSet(s("Other"));
     QVERIFY(dialogs.check());
     QCOMPARE(m->chosenSet(), s("Mine"));
-    QCOMPARE(hotkeys(box), s("B, F5"));
+    QCOMPARE(m->hotkeys(box), s("B, F5"));
 }
 
 void TestHotkeyEditorSets::savesInPlace()
@@ -186,11 +180,12 @@ void TestHotkeyEditorSets::savesInPlace()
     QSignalSpy saved(m->editor.get(), &QvelShortcutsWidget::modificationsSaved);
     QSignalSpy modified(m->editor.get(), &QvelShortcutsWidget::presetModified);
     DialogDriver dialogs;
-    edit();
+    m->edit();
     m->click("HotkeyEditor_toolButtonSavePreset");
     QVERIFY(dialogs.check());
-    QVERIFY(contents(m->userSet).contains("Shortcut=\"F9\" Description=\"Bevel\" Id=\"2-bevel\""));
-    QVERIFY(contents(m->userSet).contains("F5")); // what was in the set before
+    QVERIFY(TestHost::read(m->userSet)
+                    .contains("Shortcut=\"F9\" Description=\"Bevel\" Id=\"2-bevel\""));
+    QVERIFY(TestHost::read(m->userSet).contains("F5")); // what was in the set before
     QCOMPARE(saved.count(), 1);
     QCOMPARE(modified.count(), 2);
     QVERIFY(!modified.at(1).at(0).toBool() && !m->editor->isModified());
@@ -200,15 +195,15 @@ void TestHotkeyEditorSets::savesInPlace()
 void TestHotkeyEditorSets::savesLockedSetElsewhere()
 {
     m->chooseSet(s("Default"));
-    const QByteArray before = contents(m->shippedSet);
-    edit();
+    const QByteArray before = TestHost::read(m->shippedSet);
+    m->edit();
     DialogDriver dialogs;
     const QString path = m->host.paths()->userPresets + s("/New.Keys.hsx");
     dialogs.expectFile(s("Save Hotkey Set As"), path);
     m->triggerOption(s("Save"));
     QVERIFY(dialogs.check());
-    QCOMPARE(contents(m->shippedSet), before);
-    QVERIFY(contents(path).contains("F9"));
+    QCOMPARE(TestHost::read(m->shippedSet), before);
+    QVERIFY(TestHost::read(path).contains("F9"));
     QCOMPARE(m->host.paths()->currentSet, path);
     QCOMPARE(m->child<QComboBox>("HotkeyEditor_hotkeySetComboBox")->currentData(Qt::ToolTipRole),
              QVariant(path));
@@ -232,8 +227,8 @@ void TestHotkeyEditorSets::neverOverwritesLockedSets()
     const QString locked = byAttribute ? m->host.write(s("user/Locked.hsx"),
                                                        "<VelHotkeyTransformations Locked='1'/>")
                                        : m->shippedSet;
-    const QByteArray before = contents(locked);
-    edit();
+    const QByteArray before = TestHost::read(locked);
+    m->edit();
     DialogDriver dialogs;
     dialogs.expectFile(asBaseFile ? s("Save Shortcuts") : s("Save Hotkey Set As"), locked)
             .expectReplacement()
@@ -241,28 +236,28 @@ void TestHotkeyEditorSets::neverOverwritesLockedSets()
     asBaseFile ? m->editor->saveShortcuts() : m->editor->saveShortcutsTransformation();
     QVERIFY(dialogs.check());
     QCOMPARE(dialogs.texts().last(), s("Cannot overwrite a locked preset file!"));
-    QCOMPARE(contents(locked), before);
+    QCOMPARE(TestHost::read(locked), before);
     QVERIFY(m->editor->isModified());
     QCOMPARE(m->chosenSet(), s("Mine"));
 }
 
 void TestHotkeyEditorSets::keepsEditsWhenSavingFails()
 {
-    edit();
+    m->edit();
     m->manager.assignShortcut(sphere, QKeySequence(0x1A).toString(), s("Sphere"));
-    const QByteArray before = contents(m->userSet);
+    const QByteArray before = TestHost::read(m->userSet);
     DialogDriver dialogs;
     dialogs.expectBox(s("Save Changes Error"), QMessageBox::Ok);
     m->triggerOption(s("Save"));
     QVERIFY(dialogs.check());
     QVERIFY(m->editor->isModified());
-    QCOMPARE(contents(m->userSet), before);
-    QCOMPARE(hotkeys(bevel), s("B, F9"));
+    QCOMPARE(TestHost::read(m->userSet), before);
+    QCOMPARE(m->hotkeys(bevel), s("B, F9"));
 }
 
 void TestHotkeyEditorSets::resets()
 {
-    edit();
+    m->edit();
     DialogDriver dialogs;
     dialogs.expectBox(s("Reset Hotkeys"), QMessageBox::Cancel)
             .expectBox(s("Reset Hotkeys"), QMessageBox::Discard);
@@ -271,8 +266,8 @@ void TestHotkeyEditorSets::resets()
     m->triggerOption(s("Reset"));
     QVERIFY(dialogs.check());
     QVERIFY(!m->editor->isModified());
-    QCOMPARE(hotkeys(bevel), s("B"));
-    QCOMPARE(hotkeys(box), s("B, F5")); // the set itself stays
+    QCOMPARE(m->hotkeys(bevel), s("B"));
+    QCOMPARE(m->hotkeys(box), s("B, F5")); // the set itself stays
     QCOMPARE(m->chosenSet(), s("Mine"));
 }
 
@@ -282,7 +277,7 @@ void TestHotkeyEditorSets::resetKeepsTranslatedName()
     QVERIFY(QCoreApplication::installTranslator(&translator));
     QTRY_VERIFY(m->listedSets().contains(s("Standard")));
     m->chooseSet(s("Standard"));
-    edit();
+    m->edit();
     DialogDriver dialogs;
     dialogs.expectBox(s("Reset Hotkeys"), QMessageBox::Discard);
     m->triggerOption(s("Reset"));
@@ -303,7 +298,7 @@ void TestHotkeyEditorSets::asksAboutVanishedFile()
 {
     QFETCH(int, answer);
     QFETCH(bool, result);
-    edit();
+    m->edit();
     QVERIFY(QFile::remove(m->userSet));
     const QString saved = m->host.paths()->userPresets + s("/Saved.hsx");
     DialogDriver dialogs;
@@ -314,16 +309,16 @@ void TestHotkeyEditorSets::asksAboutVanishedFile()
     QVERIFY(dialogs.check());
     const auto *comboBox = m->child<QComboBox>("HotkeyEditor_hotkeySetComboBox");
     if (answer == QMessageBox::Save) {
-        QVERIFY(contents(saved).contains("F9"));
+        QVERIFY(TestHost::read(saved).contains("F9"));
         QCOMPARE(m->chosenSet(), s("Saved"));
         QCOMPARE(comboBox->findText(s("Mine")), -1);
     } else if (answer == QMessageBox::Discard) {
         QCOMPARE(m->chosenSet(), s("Default"));
-        QCOMPARE(hotkeys(box), s("B"));
+        QCOMPARE(m->hotkeys(box), s("B"));
         QCOMPARE(comboBox->findText(s("Mine")), -1);
         QCOMPARE(m->host.paths()->currentSet, m->shippedSet);
     } else {
-        QCOMPARE(hotkeys(bevel), s("B, F9"));
+        QCOMPARE(m->hotkeys(bevel), s("B, F9"));
     }
     QCOMPARE(m->editor->isModified(), answer == QMessageBox::Cancel);
 }
@@ -354,7 +349,7 @@ void TestHotkeyEditorSets::opensFolderOfVanishedSet()
 
 void TestHotkeyEditorSets::followsTheDirectory()
 {
-    edit();
+    m->edit();
     m->host.write(s("user/Brand New.hsx"), "<VelHotkeyTransformations/>");
     QTRY_VERIFY(m->listedSets().contains(s("Brand New")));
     QCOMPARE(m->chosenSet(), s("Mine"));
@@ -388,7 +383,7 @@ void TestHotkeyEditorSets::refreshesWithoutChoosing()
     m->close();
     m->host.paths()->currentSet.clear();
     m->open();
-    edit();
+    m->edit();
     DialogDriver dialogs;
     m->editor->setPresetComboBoxItemIcon(QIcon());
     QCOMPARE(sets()->currentIndex(), -1);
@@ -416,7 +411,7 @@ void TestHotkeyEditorSets::showsNamesAsTyped()
     m->chooseSet(name);
     QCOMPARE(m->chosenSet(), name);
     QCOMPARE(m->host.paths()->currentSet, path);
-    edit();
+    m->edit();
     QVERIFY(QFile::remove(path));
     Qt::TextFormat format = Qt::AutoText;
     DialogDriver dialogs;
@@ -434,7 +429,7 @@ void TestHotkeyEditorSets::showsNamesAsTyped()
 // The dialog that holds the editor may be opened again while edits are pending.
 void TestHotkeyEditorSets::opensOverUnsavedEdits()
 {
-    edit();
+    m->edit();
     CUI::QvelShortcutsWidget second(m->model.get(), &m->manager);
     QVERIFY(second.isModified());
     QCOMPARE(second.findChild<QComboBox *>(s("HotkeyEditor_hotkeySetComboBox"))->currentText(),
@@ -513,7 +508,7 @@ void TestHotkeyEditorSets::mayGoWhileItAsks_data()
 void TestHotkeyEditorSets::mayGoWhileItAsks()
 {
     QFETCH(Opening, open);
-    edit();
+    m->edit();
     DialogDriver dialogs;
     open(*m, dialogs, [this](QWidget *) { m->editor.reset(); });
     QVERIFY(dialogs.check());
