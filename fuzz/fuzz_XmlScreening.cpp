@@ -46,18 +46,45 @@ public:
             compile();
             m_names = screened.names;
         }
+        const bool isWholeValid = isValid(screened.document);
+        const XmlPieces pieces = smallestPiecesOf(screened.document);
+        if (!pieces.isEmpty())
+            Fuzz::require(areAllValid(pieces) == isWholeValid,
+                          "a document is valid exactly when all its pieces are");
+    }
+
+private:
+    static constexpr std::size_t maximumNames = 2000;
+
+    static XmlPieces smallestPiecesOf(const QByteArray &document)
+    {
+        const QString text = QString::fromLatin1(document);
+        // UTF-16, in which alone a zero byte gets here, is not cut.
+        return document.contains('\0')
+                       ? XmlPieces()
+                       : XmlPieces(document, XmlTagScan::scan(text, {200, 1000000, 100, 400}), 1);
+    }
+
+    bool areAllValid(const XmlPieces &pieces)
+    {
+        for (int i = 0; i < pieces.count(); ++i) {
+            if (!isValid(pieces.at(i)))
+                return false;
+        }
+        return true;
+    }
+
+    bool isValid(const QByteArray &document)
+    {
         XmlErrorMessageHandler handler;
         QXmlSchemaValidator validator(*m_schema);
         validator.setMessageHandler(&handler);
         validator.setNetworkAccessManager(&m_noAccess);
         QBuffer buffer;
-        buffer.setData(screened.document);
+        buffer.setData(document);
         buffer.open(QIODevice::ReadOnly);
-        validator.validate(&buffer, QUrl(QStringLiteral("file:///document.xml")));
+        return validator.validate(&buffer, QUrl(QStringLiteral("file:///document.xml")));
     }
-
-private:
-    static constexpr std::size_t maximumNames = 2000;
 
     void compile()
     {

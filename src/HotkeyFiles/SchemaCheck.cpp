@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
@@ -16,6 +17,13 @@
 #include <memory>
 #include <optional>
 #include <utility>
+
+// Outside of any namespace, since the name of the resource is declared where it is used.
+static QString shippedSchemaDirectory()
+{
+    Q_INIT_RESOURCE(UiCustomizationsSchemas);
+    return QStringLiteral(":/UiCustomizations/schemas");
+}
 
 namespace CUI::SchemaCheck {
 
@@ -30,10 +38,23 @@ XmlError errorOf(const XmlErrorMessageHandler &handler)
             handler.sourceLocation().column(), 0};
 }
 
+// In the schemas of this library any number of elements stand under the root, and whether one is
+// valid depends on no other. The host may put schemas of its own beside its executable, of which
+// nothing is known.
+bool isShipped(const QByteArray &source)
+{
+    const QFileInfoList files = QDir(shippedSchemaDirectory()).entryInfoList();
+    return std::any_of(files.begin(), files.end(), [&](const QFileInfo &info) {
+        QFile file(info.filePath());
+        return file.open(QIODevice::ReadOnly) && file.readAll() == source;
+    });
+}
+
 class CompiledSchema
 {
 public:
-    CompiledSchema(const QByteArray &source, const QUrl &url) : m_source(source), m_url(url)
+    CompiledSchema(const QByteArray &source, const QUrl &url)
+        : m_source(source), m_url(url), m_judgesChildrenAlone(isShipped(source))
     {
         compile();
     }
@@ -45,13 +66,11 @@ public:
         rememberNames(screened.names);
         if (!m_schema->isValid())
             return m_error;
+        // What is wrong, and where, only the whole document tells.
+        if (m_judgesChildrenAlone && arePiecesValid(screened.pieces, documentUrl))
+            return {};
         XmlErrorMessageHandler handler;
-        QXmlSchemaValidator validator(*m_schema);
-        validator.setMessageHandler(&handler);
-        QBuffer buffer;
-        buffer.setData(screened.document);
-        buffer.open(QIODevice::ReadOnly);
-        if (validator.validate(&buffer, documentUrl))
+        if (isValid(screened.document, documentUrl, handler))
             return {};
         return errorOf(handler);
     }
@@ -59,6 +78,28 @@ public:
     static int compilations;
 
 private:
+    bool isValid(const QByteArray &document, const QUrl &url, XmlErrorMessageHandler &handler) const
+    {
+        QXmlSchemaValidator validator(*m_schema);
+        validator.setMessageHandler(&handler);
+        QBuffer buffer;
+        buffer.setData(document);
+        buffer.open(QIODevice::ReadOnly);
+        return validator.validate(&buffer, url);
+    }
+
+    // The processor builds a tree of what it validates and gets slower as the tree outgrows the
+    // processor's caches, so that a large document takes less time in pieces.
+    bool arePiecesValid(const XmlPieces &pieces, const QUrl &url) const
+    {
+        for (int i = 0; i < pieces.count(); ++i) {
+            XmlErrorMessageHandler handler;
+            if (!isValid(pieces.at(i), url, handler))
+                return false;
+        }
+        return !pieces.isEmpty();
+    }
+
     void compile()
     {
         ++compilations;
@@ -81,6 +122,7 @@ private:
 
     QByteArray m_source;
     QUrl m_url;
+    bool m_judgesChildrenAlone = false;
     std::unique_ptr<QXmlSchema> m_schema;
     XmlError m_error;
     std::set<QString, std::less<>> m_names;

@@ -14,12 +14,13 @@ using Names = std::set<QString, std::less<>>;
 
 const QLatin1String schemaInstanceNamespace("http://www.w3.org/2001/XMLSchema-instance");
 
+constexpr int latin1Mib = 4;
+
 // The codec under which the tags can be found: that of a byte order mark, or the one that maps
 // every byte to the character of the same number, since all other encodings that are let through
 // agree with ASCII on markup. Null when the document is neither.
 QTextCodec *scanCodec(const QByteArray &document)
 {
-    constexpr int latin1Mib = 4;
     QTextCodec *latin1 = QTextCodec::codecForMib(latin1Mib);
     const QTextCodec *marked = QTextCodec::codecForUtfText(document, latin1);
     if (marked->name().startsWith("UTF-16"))
@@ -169,6 +170,9 @@ Result screen(const QByteArray &document)
     result.document = document;
     XmlTagScan::Result tags = scanTags(result, *codec);
     result.names = std::move(tags.names);
+    // The places in the text are those in the document where a byte is a character.
+    if (!result.refusal && codec->mibEnum() == latin1Mib)
+        result.pieces = XmlPieces(result.document, tags);
     if (!result.refusal && tags.hasNamespaces) {
         NamespaceScreener screener(result.document);
         result.refusal = screener.run();

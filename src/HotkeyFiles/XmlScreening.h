@@ -1,6 +1,7 @@
 #pragma once
 
 #include "XmlError.h"
+#include "XmlPieces.h"
 
 #include <QByteArray>
 #include <QString>
@@ -37,6 +38,8 @@ struct Result {
     /// Why the document must not be processed. Documents that are not well-formed are not refused:
     /// the processor stops at the same place and says so itself.
     std::optional<XmlError> refusal;
+    /// The document in small pieces; none when it is small, or when it cannot be cut.
+    XmlPieces pieces;
 };
 
 Result screen(const QByteArray &document);

@@ -143,6 +143,21 @@ private:
             return refuse("Elements are nested too deeply.", start);
         if (!remember(takeName(), start))
             return false;
+        const bool isRoot = !isEnd && m_depth == 1 && m_result.rootTag.length == 0;
+        if (isRoot)
+            m_result.rootName = {start + 1, m_position - start - 1};
+        else if (!isEnd && m_depth == 2)
+            m_result.rootChildren.push_back(start);
+        if (!skipAttributes(start, isEnd))
+            return false;
+        if (isRoot)
+            m_result.rootTag = {start, m_position - start};
+        return true;
+    }
+
+    // Up to the end of the tag that starts at tagStart.
+    bool skipAttributes(int tagStart, bool isEnd)
+    {
         for (int attributes = 0;; ++attributes) {
             skipSpaces();
             const bool isEmpty = isAt('/');
@@ -155,7 +170,7 @@ private:
                 return true;
             }
             if (attributes == m_limits.attributes)
-                return refuse("A tag has too many attributes.", start);
+                return refuse("A tag has too many attributes.", tagStart);
             if (!skipAttribute())
                 return false;
         }

@@ -43,6 +43,11 @@ struct Result {
     /// True when a name has a prefix or a namespace is declared. The names are not all that there
     /// are then.
     bool hasNamespaces = false;
+    /// The root's start tag, and the name in it.
+    Range rootTag;
+    Range rootName;
+    /// Where the start tags of the root's children are, in ascending order.
+    std::vector<int> rootChildren;
 };
 
 /// Scans @p text up to its end or to the first place where it is not well-formed; no reader comes

@@ -8,6 +8,8 @@
 
 #include <QSignalSpy>
 #include <QTextCodec>
+#include <QXmlSchema>
+#include <QXmlSchemaValidator>
 #include <QtTest>
 
 #include <functional>
@@ -28,6 +30,18 @@ QString s(const char *text)
 QByteArray repeated(const char *text, int count)
 {
     return QByteArray(text).repeated(count);
+}
+
+const char *const prolog = "<?xml version='1.0' encoding='UTF-8'?>";
+
+// 2500 hotkeys with something before the one of that number; with all of them, it is cut twice.
+QByteArray largeDocument(const QByteArray &root, int number, const QByteArray &inserted)
+{
+    QByteArray document = root;
+    for (int i = 0; i < 2500; ++i)
+        document += (i == number ? inserted : QByteArray()) + "<Hotkey Shortcut='A' Id='1-"
+                    + QByteArray::number(i) + "'/>\n";
+    return document;
 }
 
 const char *const schemaInstance = " xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'";
@@ -53,6 +67,9 @@ private Q_SLOTS:
     void refusesHostileDocuments();
     void neverFollowsSchemaHints_data();
     void neverFollowsSchemaHints();
+    void judgesLargeDocumentsAsAWhole_data();
+    void judgesLargeDocumentsAsAWhole();
+    void leavesLargeDocumentsWholeForOtherSchemas();
 
 private:
     QStringList linesOf(const std::function<bool()> &check, bool expected);
@@ -341,6 +358,79 @@ void TestSchemaCheck::neverFollowsSchemaHints()
     const QStringList lines =
             linesOf([&] { return QvelShortcutManager::validateShortcuts(bad); }, false);
     QVERIFY2(lines.value(0).contains(s("Line: %1 ").arg(line)), qPrintable(lines.value(0)));
+}
+
+void TestSchemaCheck::judgesLargeDocumentsAsAWhole_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    const auto row = [](const QByteArray &inserted, int number = 1000,
+                        const QByteArray &root = QByteArray(prolog) + "\n<VelHotkeys>",
+                        const QByteArray &end = "</VelHotkeys>") {
+        QTest::addRow("%s before %d, %s ... %s", inserted.constData(), number,
+                      root.right(60).simplified().constData(), end.constData())
+                << largeDocument(root, number, inserted) + end;
+    };
+    for (const int number : {1, 999, 1000, 1001, 2499}) {
+        row("<!-- <Hotkey/> -->", number);
+        row("<![CDATA[ ]]>", number);
+        row("text", number);
+        row("<Odd/>", number);
+        row("<Hotkey Shortcut='A' Id='1-a'>", number);
+        row("<Hotkey Shortcut='A' Id='1-a'></Hotkey>", number);
+        row("</VelHotkeys>", number);
+        row("</VelHotkeys><VelHotkeys>", number);
+        row("<VelHotkeys>", number);
+        row("<!--", number);
+        row("&lt;", number);
+        row("&none;", number);
+        row("\xff", number);
+    }
+    row("", 0, prolog + QByteArray("<!--") + QByteArray(5000, '=') + "--><VelHotkeys>");
+    row("", 0, "\xef\xbb\xbf<VelHotkeys>");
+    row("", 0, "<VelHotkeys Odd=''>");
+    row("", 0, "<VelHotkeys Odd='' Odd=''>");
+    row("", 0, "<VelHotkeys xmlns='urn:x'>");
+    row("", 0, "<y:VelHotkeys xmlns:y='urn:x'>", "</y:VelHotkeys>");
+    row("<Hotkey y:Odd='' Shortcut='A' Id='1-a'/>", 1500, "<VelHotkeys xmlns:y='urn:x'>");
+    row("<Hotkey Shortcut='\xe9' Id='1-a'/>", 1500,
+        "<?xml version='1.0' encoding='ISO-8859-1'?><VelHotkeys>");
+    row("<Hotkey Shortcut='\xe9' Id='1-a'/>", 1500);
+    row("", 0, "<VelHotkeys>", "");
+    row("", 0, "<VelHotkeys>", "</Other>");
+    row("", 0, "<VelHotkeys>", "</VelHotkeys><!-- c --><Other/>");
+}
+
+// Pieces of a large document are validated one by one; of that, nothing may be seen.
+void TestSchemaCheck::judgesLargeDocumentsAsAWhole()
+{
+    QFETCH(QByteArray, document);
+    const QString schemaPath =
+            QCoreApplication::applicationDirPath() + s("/HotkeyMappingSchema.xsd");
+    const QString path = m_host->write(s("a.hsxb"), document);
+    CUI::XmlErrorMessageHandler handler;
+    QXmlSchema schema;
+    QVERIFY(schema.load(QUrl::fromLocalFile(schemaPath)));
+    QXmlSchemaValidator validator(schema);
+    validator.setMessageHandler(&handler);
+    const bool isValid = validator.validate(document, QUrl::fromLocalFile(path));
+
+    const SchemaCheck::Result result = SchemaCheck::check(path, schemaPath);
+    QCOMPARE(result.verdict == SchemaCheck::Verdict::Valid, isValid);
+    if (isValid)
+        return;
+    QCOMPARE(result.error.text, handler.description());
+    QCOMPARE(result.error.line, handler.sourceLocation().line());
+    QCOMPARE(result.error.column, handler.sourceLocation().column());
+}
+
+void TestSchemaCheck::leavesLargeDocumentsWholeForOtherSchemas()
+{
+    QByteArray source =
+            TestHost::read(QCoreApplication::applicationDirPath() + s("/HotkeyMappingSchema.xsd"));
+    const QString schema = m_host->write(s("s.xsd"), source.replace("unbounded", "2400"));
+    const QString path = m_host->write(s("a.hsxb"), largeDocument("<VelHotkeys>", 0, QByteArray())
+                                                            + "</VelHotkeys>");
+    QVERIFY(SchemaCheck::check(path, schema).verdict == SchemaCheck::Verdict::Invalid);
 }
 
 QTEST_GUILESS_MAIN(TestSchemaCheck)
