@@ -9,6 +9,19 @@
 
 using namespace CUI::Bench;
 
+namespace {
+
+QtMessageHandler standardHandler = nullptr;
+
+// Every window on a screen that does not exist says this, in the middle of the table.
+void dropSizeHintWarnings(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (!text.endsWith(QLatin1String("propagateSizeHints()")))
+        standardHandler(type, context, text);
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
@@ -16,6 +29,7 @@ int main(int argc, char **argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
 
+    standardHandler = qInstallMessageHandler(dropSizeHintWarnings);
     // Debian turns debug lines on for everyone; a line a key would bury the table.
     QLoggingCategory::setFilterRules(QStringLiteral("cui.*.debug=false"));
 
