@@ -82,11 +82,10 @@ bool convert(const QString &in, const QString &out)
     dropUnwritable(steps);
 
     QSaveFile file(out);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-        return fail(QStringLiteral("Could not open '%1' to store the results of conversion."), out);
-    if (!HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::Omit)
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)
+        || !HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::Omit)
         || !commitWhole(file))
-        return false;
+        return fail(QStringLiteral("Could not open '%1' to store the results of conversion."), out);
     return FileValidation::validateShortcutsTransforms(out);
 }
 
