@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QTextBoundaryFinder>
@@ -242,14 +243,17 @@ void ActionSelectionPanel::assign()
 
 void ActionSelectionPanel::tellThatListIsFull()
 {
-    QMessageBox box(QMessageBox::Information,
-                    editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Too Many Hotkeys")),
-                    editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
-                                                 "An action can have at most %1 hotkeys.\n\nRemove "
-                                                 "one of them before you assign another.\n"))
-                            .arg(QShortcutsList::ShortcutLimitPerAction),
-                    QMessageBox::Ok, m_form.newHotkeysGroupBox->window());
-    box.exec();
+    // Has the editor's window as its parent, and goes with it when the host closes the editor now.
+    const QPointer<QMessageBox> box = new QMessageBox(
+            QMessageBox::Information,
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Too Many Hotkeys")),
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
+                                         "An action can have at most %1 hotkeys.\n\nRemove "
+                                         "one of them before you assign another.\n"))
+                    .arg(QShortcutsList::ShortcutLimitPerAction),
+            QMessageBox::Ok, m_form.newHotkeysGroupBox->window());
+    box->exec();
+    delete box.data();
 }
 
 void ActionSelectionPanel::removeFromHolder()
