@@ -76,6 +76,10 @@ Command assignCommand()
             "written to FILE; the set that was loaded stays as it is unless FILE names it.\n"
             "Shipped and locked sets are never written to. An action can hold six hotkeys.\n"
             "\n"
+            "Saving drops repeated steps and pairs of opposite ones. An edit that is undone by "
+            "this\n"
+            "is refused, and what else it changes is told.\n"
+            "\n"
             "Example: try first, then save\n"
             "  hotkeyctl assign 1-exportAll Ctrl+E\n"
             "  hotkeyctl assign 1-exportAll Ctrl+E --save mine.hsx\n");

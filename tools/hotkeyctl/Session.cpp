@@ -6,24 +6,12 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <QTextStream>
 
 #include <algorithm>
 
 namespace HotkeyCtl {
-
-namespace {
-
-QStringList valueOf(const std::unordered_map<CUI::ActionIdentifier, CUI::QShortcutsList> &shortcuts,
-                    const CUI::ActionIdentifier &identifier)
-{
-    const auto found = shortcuts.find(identifier);
-    if (found == shortcuts.end())
-        return {};
-    return found->second;
-}
-
-} // namespace
 
 Session::Session(const SessionOptions &options, QTextStream &out, QTextStream &err)
     : m_options(options), m_out(out), m_err(err), m_log(err, options.logLevel)
@@ -125,6 +113,26 @@ bool Session::loadSet(const QString &path)
     return false;
 }
 
+std::optional<Session::Shortcuts> Session::shortcutsOnceSaved()
+{
+    const QTemporaryDir folder;
+    const QString saved = folder.filePath(QStringLiteral("saved.hsx"));
+    const QString currentSet = paths().getCurrentConfigurationFile(CUI::ConfigType::HotkeySet);
+    CUI::QvelShortcutManager store;
+    // Everything else that the log says about these files it has said already.
+    m_log.dropAllButErrors(true);
+    const int errorsBefore = m_log.errorCount();
+    const bool isSaved = folder.isValid() && m_store.saveShortcutTransforms(saved);
+    if (isSaved)
+        store.loadShortcutConfiguration(saved);
+    m_log.dropAllButErrors(false);
+    paths().setCurrentConfigurationFile(CUI::ConfigType::HotkeySet, currentSet);
+    if (isSaved && m_log.errorCount() == errorsBefore)
+        return store.getShortcuts();
+    problem(QStringLiteral("%1: the set cannot be saved for a check").arg(folder.path()));
+    return {};
+}
+
 // The catalogue
 
 const Host::HostCatalogue &Session::catalogue() const
@@ -144,12 +152,20 @@ QString Session::presetDirectory() const
 
 QStringList Session::hotkeys(const CUI::ActionIdentifier &identifier) const
 {
-    return valueOf(m_store.getShortcuts(), identifier);
+    return hotkeys(m_store.getShortcuts(), identifier);
+}
+
+QStringList Session::hotkeys(const Shortcuts &shortcuts, const CUI::ActionIdentifier &identifier)
+{
+    const auto found = shortcuts.find(identifier);
+    if (found == shortcuts.end())
+        return {};
+    return found->second;
 }
 
 QStringList Session::baseHotkeys(const CUI::ActionIdentifier &identifier) const
 {
-    return valueOf(m_base, identifier);
+    return hotkeys(m_base, identifier);
 }
 
 const Host::HostCatalogue::Action *Session::findAction(const QString &text) const

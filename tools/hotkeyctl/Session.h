@@ -36,6 +36,8 @@ struct SessionOptions {
 class Session
 {
 public:
+    using Shortcuts = std::unordered_map<CUI::ActionIdentifier, CUI::QShortcutsList>;
+
     /// How much of the configuration is in the store.
     enum class Loading {
         Failed, ///< nothing that could be shown
@@ -69,6 +71,10 @@ public:
     /// Puts the set @p path on top of the loaded base, in the place of one that is there. False,
     /// after telling why, when it cannot be loaded.
     bool loadSet(const QString &path);
+    /// What is in effect once the set is saved as it is now and loaded again, which need not be
+    /// what is in effect now: saving cancels steps with what they displaced, and those steps have
+    /// cancelled in the store, too, after this. Nothing, after telling why, when it fails.
+    std::optional<Shortcuts> shortcutsOnceSaved();
 
     /// \name After load(), loadBase() or open()
     /// @{
@@ -79,6 +85,7 @@ public:
     CUI::QvelShortcutManager &store() { return m_store; }
     /// The action's hotkeys in effect.
     QStringList hotkeys(const CUI::ActionIdentifier &identifier) const;
+    static QStringList hotkeys(const Shortcuts &shortcuts, const CUI::ActionIdentifier &identifier);
     /// The action's hotkeys before the set was loaded.
     QStringList baseHotkeys(const CUI::ActionIdentifier &identifier) const;
     /// The action that @p text (1-undo) names; null when there is none.
@@ -102,7 +109,7 @@ private:
     LogPrinter m_log;
     std::unique_ptr<Host::SampleHost> m_host;
     CUI::QvelShortcutManager m_store;
-    std::unordered_map<CUI::ActionIdentifier, CUI::QShortcutsList> m_base;
+    Shortcuts m_base;
 };
 
 } // namespace HotkeyCtl

@@ -44,6 +44,10 @@ Command unassignCommand()
             "step at its end, is written to FILE; the set that was loaded stays as it is unless\n"
             "FILE names it. Shipped and locked sets are never written to.\n"
             "\n"
+            "Saving drops repeated steps and pairs of opposite ones. An edit that is undone by "
+            "this\n"
+            "is refused, and what else it changes is told.\n"
+            "\n"
             "Example:\n"
             "  hotkeyctl --set mine.hsx unassign 1-undo Ctrl+Z --save mine.hsx\n");
     command.options = {SetEditing::saveOption()};
