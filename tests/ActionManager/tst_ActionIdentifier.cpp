@@ -25,7 +25,6 @@ void TestActionIdentifier::parsesTextForm_data()
     QTest::newRow("plain") << "1-undo" << quint64(1) << "undo";
     QTest::newRow("hyphens stay in the action") << "12-my-action-" << quint64(12) << "my-action-";
     QTest::newRow("not a number") << "abc-x" << quint64(0) << "x";
-    QTest::newRow("no table") << "-x" << quint64(0) << "x";
     QTest::newRow("negative") << "--5" << quint64(0) << "-5";
     QTest::newRow("largest") << "4294967295-x" << quint64(4294967295U) << "x";
     QTest::newRow("33 bits") << "4294967296-x" << quint64(0) << "x";

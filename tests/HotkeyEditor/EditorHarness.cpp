@@ -1,16 +1,11 @@
 #include "EditorHarness.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QToolButton>
-#include <QTreeView>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -20,15 +15,6 @@ const CUI::ActionIdentifier box{1, QStringLiteral("box")};
 const CUI::ActionIdentifier boxes{1, QStringLiteral("boxes")};
 const CUI::ActionIdentifier sphere{1, QStringLiteral("sphere")};
 const CUI::ActionIdentifier bevel{2, QStringLiteral("bevel")};
-
-namespace {
-
-QString s(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-} // namespace
 
 EditorHarness::EditorHarness()
 {
@@ -40,47 +26,44 @@ EditorHarness::EditorHarness()
     registry->addAction(sphere, s("Sphere"), 1, s("Add"), false);
     registry->addAction(bevel, s("Bevel"), 2, s("Mesh"), false);
 
-    QDir().mkpath(host.path(s("shipped")));
-    QDir().mkpath(host.path(s("user")));
-    QDir().mkpath(host.path(s("legacy")));
     const QString folder = QDir::cleanPath(host.path(s(".")));
-    host.paths()->defaultPresets = folder + s("/shipped");
-    host.paths()->userPresets = folder + s("/user");
-    host.paths()->legacyDirectory = folder + s("/legacy");
-    host.paths()->baseFiles = QStringList(
-            host.write(s("base.hsxb"), "<VelHotkeys><Hotkey Shortcut='B' Id='1-box'/>"
-                                       "<Hotkey Shortcut='S, Ctrl+S' Id='1-sphere'/>"
-                                       "<Hotkey Shortcut='B' Id='2-bevel'/></VelHotkeys>"));
-    host.write(s("shipped/default.hsx"),
-               "<VelHotkeyTransformations Locked='true' Description='Default'/>");
-    host.write(s("user/Mine.hsx"), "<VelHotkeyTransformations>"
-                                   "<Assign_Hotkey Shortcut='F5' Description='Box' Id='1-box'/>"
-                                   "</VelHotkeyTransformations>");
-    host.write(s("user/Other.hsx"), "<VelHotkeyTransformations>"
-                                    "<Unassign_Hotkey Shortcut='B' Id='1-box'/>"
-                                    "</VelHotkeyTransformations>");
-    shippedSet = folder + s("/shipped/default.hsx");
-    userSet = folder + s("/user/Mine.hsx");
-    otherSet = folder + s("/user/Other.hsx");
-    host.paths()->defaultSet = shippedSet;
-    host.paths()->currentSet = userSet;
+    for (const char *name : {"shipped", "user", "legacy"})
+        QDir(folder).mkdir(s(name));
+    TestPaths *paths = host.paths();
+    paths->defaultPresets = folder + s("/shipped");
+    paths->userPresets = folder + s("/user");
+    paths->legacyDirectory = folder + s("/legacy");
+    paths->baseFiles << host.write(s("base.hsxb"),
+                                   "<VelHotkeys><Hotkey Shortcut='B' Id='1-box'/>"
+                                   "<Hotkey Shortcut='S, Ctrl+S' Id='1-sphere'/>"
+                                   "<Hotkey Shortcut='B' Id='2-bevel'/></VelHotkeys>");
+    const auto writeSet = [&](const char *name, const char *contents) {
+        host.write(s(name), contents);
+        return folder + QLatin1Char('/') + s(name);
+    };
+    shippedSet = writeSet("shipped/default.hsx",
+                          "<VelHotkeyTransformations Locked='true' Description='Default'/>");
+    userSet = writeSet("user/Mine.hsx",
+                       "<VelHotkeyTransformations><Assign_Hotkey Shortcut='F5' Description='Box' "
+                       "Id='1-box'/></VelHotkeyTransformations>");
+    otherSet = writeSet("user/Other.hsx",
+                        "<VelHotkeyTransformations><Unassign_Hotkey Shortcut='B' Id='1-box'/>"
+                        "</VelHotkeyTransformations>");
+    paths->defaultSet = shippedSet;
+    paths->currentSet = userSet;
 }
 
-EditorHarness::~EditorHarness()
+void EditorHarness::open(std::unique_ptr<QDialog> holder)
 {
-    close();
-}
-
-void EditorHarness::open(QWidget *dialog)
-{
+    dialog = std::move(holder);
     manager.loadCurrentShortcutConfiguration();
     model = std::make_unique<CUI::QvelActionItemModel>(&manager);
-    editor = std::make_unique<CUI::QvelShortcutsWidget>(model.get(), &manager, dialog);
+    editor = std::make_unique<CUI::QvelShortcutsWidget>(model.get(), &manager, dialog.get());
     if (dialog != nullptr)
         dialog->layout()->addWidget(editor.get());
     editor->window()->show();
-    QObject::connect(child<QLineEdit>("HotkeyEditor_searchLineEdit"), &QLineEdit::textChanged,
-                     editor.get(), [this] { m_hasSearched = true; });
+    QObject::connect(search(), &QLineEdit::textChanged, editor.get(),
+                     [this] { m_hasSearched = true; });
     QApplication::setActiveWindow(editor->window());
     QVERIFY(QTest::qWaitForWindowActive(editor->window()));
 }
@@ -92,71 +75,68 @@ void EditorHarness::close()
     if (std::exchange(m_hasSearched, false))
         QTest::qWait(fadingTime);
     editor.reset();
+    dialog.reset();
     model.reset();
 }
 
 void EditorHarness::click(const char *name) const
 {
-    QTest::mouseClick(child<QWidget>(name), Qt::LeftButton);
+    QTest::mouseClick(child(name), Qt::LeftButton);
 }
 
 void EditorHarness::press(int key, Qt::KeyboardModifiers modifiers) const
 {
-    QTest::keyClick(child<QLineEdit>("HotkeyEditor_shortcutLineEdit"), static_cast<Qt::Key>(key),
-                    modifiers);
+    QTest::keyClick(field(), static_cast<Qt::Key>(key), modifiers);
+}
+
+void EditorHarness::enter(int key, Qt::KeyboardModifiers modifiers) const
+{
+    press(key, modifiers);
+    click("HotkeyEditor_assignShortcutBtn");
 }
 
 void EditorHarness::select(const CUI::ActionIdentifier &id) const
 {
-    auto *tree = child<QTreeView>("HotkeyEditor_keyActionsTreeView");
-    const QString name = host.registry()->getAction(id)->name();
-    for (int row = 0; row < tree->model()->rowCount(); ++row) {
-        const QModelIndex index = tree->model()->index(row, 0);
-        if (index.data().toString() == name) {
-            tree->scrollTo(index);
-            QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier,
-                              tree->visualRect(index).center());
-            return;
-        }
-    }
-    qFatal("the tree does not list the action");
+    const QAbstractItemModel *shown = tree()->model();
+    const QModelIndex index =
+            shown->match(shown->index(0, 0), Qt::DisplayRole, nameOf(id), 1, Qt::MatchExactly)
+                    .value(0);
+    if (!index.isValid())
+        qFatal("the tree does not list the action");
+    tree()->scrollTo(index);
+    QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      tree()->visualRect(index).center());
 }
 
-QString EditorHarness::rows() const
+std::vector<QWidget *> EditorHarness::hotkeyRows() const
 {
-    const QAbstractItemModel *shown = child<QTreeView>("HotkeyEditor_keyActionsTreeView")->model();
-    QStringList names;
-    for (int row = 0; row < shown->rowCount(); ++row)
-        names << shown->index(row, 0).data().toString();
-    return names.join(s(", "));
+    const QLayout *layout = child("assignedHotkeysWidget")->layout();
+    std::vector<QWidget *> found;
+    for (int i = 0; i < layout->count(); ++i) {
+        QWidget *row = layout->itemAt(i)->widget();
+        if (row != nullptr && row->objectName() != s("line"))
+            found.push_back(row);
+    }
+    return found;
 }
 
 QString EditorHarness::assigned() const
 {
-    const QLayout *layout = child<QWidget>("assignedHotkeysWidget")->layout();
     QStringList texts;
-    for (int i = 0; i < layout->count(); ++i) {
-        const QWidget *row = layout->itemAt(i)->widget();
-        if (row == nullptr || row->objectName() == s("line"))
-            continue;
+    for (const QWidget *row : hotkeyRows()) {
         const QString text = row->findChild<QLabel *>()->text();
-        const bool isRemoved =
-                row->findChild<QPushButton *>(s("HotkeyEditor_undoAssignedButton")) != nullptr;
-        texts << (isRemoved ? QLatin1Char('(') + text.section(QRegularExpression(s("</?b>")), 1, 1)
-                                      + QLatin1Char(')')
+        const bool isRemoved = row->findChild<QWidget *>(s("HotkeyEditor_undoAssignedButton"));
+        texts << (isRemoved ? s("(%1)").arg(text.section(QRegularExpression(s("</?b>")), 1, 1))
                             : text);
     }
     return texts.join(s(", "));
 }
 
-void EditorHarness::clickRow(const QString &shortcut) const
+void EditorHarness::clickRow(const char *shortcut) const
 {
-    const QLayout *layout = child<QWidget>("assignedHotkeysWidget")->layout();
-    for (int i = 0; i < layout->count(); ++i) {
-        const QWidget *row = layout->itemAt(i)->widget();
-        const QLabel *label = row != nullptr ? row->findChild<QLabel *>() : nullptr;
-        if (label != nullptr
-            && QString(label->text()).remove(QRegularExpression(s("<br>.*|</?b>"))) == shortcut) {
+    for (const QWidget *row : hotkeyRows()) {
+        QString text = row->findChild<QLabel *>()->text();
+        if (text.remove(QRegularExpression(s("<br>.*|</?b>"))) == s(shortcut)) {
             QTest::mouseClick(row->findChild<QPushButton *>(), Qt::LeftButton);
             return;
         }
@@ -164,11 +144,11 @@ void EditorHarness::clickRow(const QString &shortcut) const
     qFatal("no row of that hotkey");
 }
 
-void EditorHarness::triggerOption(const QString &text) const
+void EditorHarness::triggerOption(const char *text) const
 {
     const QMenu *menu = child<QToolButton>("HotkeyEditor_toolButtonPresetOptions")->menu();
     for (QAction *action : menu->actions()) {
-        if (action->text() == text) {
+        if (action->text() == s(text)) {
             action->trigger();
             return;
         }
@@ -176,34 +156,12 @@ void EditorHarness::triggerOption(const QString &text) const
     qFatal("no such option");
 }
 
-QString EditorHarness::chosenSet() const
+QStringList EditorHarness::textsOf(const QAbstractItemModel *model)
 {
-    return child<QComboBox>("HotkeyEditor_hotkeySetComboBox")->currentText();
-}
-
-void EditorHarness::chooseSet(const QString &name) const
-{
-    auto *comboBox = child<QComboBox>("HotkeyEditor_hotkeySetComboBox");
-    comboBox->setCurrentIndex(comboBox->findText(name));
-}
-
-void EditorHarness::edit()
-{
-    manager.assignShortcut(bevel, QStringLiteral("F9"), QStringLiteral("Bevel"));
-}
-
-QString EditorHarness::hotkeys(const CUI::ActionIdentifier &id) const
-{
-    return manager.getShortcutsFromActionId(id);
-}
-
-QStringList EditorHarness::listedSets() const
-{
-    const auto *comboBox = child<QComboBox>("HotkeyEditor_hotkeySetComboBox");
-    QStringList names;
-    for (int i = 0; i < comboBox->count(); ++i)
-        names << comboBox->itemText(i);
-    return names;
+    QStringList texts;
+    for (int row = 0; row < model->rowCount(); ++row)
+        texts << model->index(row, 0).data().toString();
+    return texts;
 }
 
 void EditorHarness::refreshList() const
@@ -212,9 +170,29 @@ void EditorHarness::refreshList() const
     QTRY_VERIFY(listedSets().contains(s("Zed")));
 }
 
-DialogDriver::DialogDriver()
+QString EditorHarness::nameOf(const CUI::ActionIdentifier &id) const
 {
-    lookAgain();
+    return host.registry()->getAction(id)->name();
+}
+
+void EditorHarness::assign(const CUI::ActionIdentifier &id, const QString &shortcut)
+{
+    manager.assignShortcut(id, shortcut, nameOf(id));
+}
+
+void EditorHarness::unassign(const CUI::ActionIdentifier &id, const char *shortcut)
+{
+    manager.unassignShortcut(id, s(shortcut), nameOf(id));
+}
+
+void EditorHarness::edit()
+{
+    assign(bevel, "F9");
+}
+
+QString EditorHarness::hotkeys(const CUI::ActionIdentifier &id) const
+{
+    return manager.getShortcutsFromActionId(id);
 }
 
 // A shot for each look: an answer may open the next dialog before it returns, and a timer does not
@@ -224,36 +202,43 @@ void DialogDriver::lookAgain()
     QTimer::singleShot(5, this, [this] { answerNext(); });
 }
 
+template <typename Dialog>
+Dialog *DialogDriver::expected(QWidget *dialog, const char *title)
+{
+    auto *found = qobject_cast<Dialog *>(dialog);
+    if (found != nullptr && found->windowTitle() == s(title))
+        return found;
+    m_complaints << s("expected '%1', found '%2'").arg(s(title), dialog->windowTitle());
+    dialog->close();
+    return nullptr;
+}
+
 DialogDriver &DialogDriver::expect(Answer answer)
 {
     m_answers.push_back(std::move(answer));
     return *this;
 }
 
-DialogDriver &DialogDriver::expectBox(const QString &title, int button)
+DialogDriver &DialogDriver::expectBox(const char *title, int button, const Look &look)
 {
-    return expect([this, title, button](QWidget *dialog) {
-        auto *messageBox = qobject_cast<QMessageBox *>(dialog);
-        if (messageBox == nullptr || messageBox->windowTitle() != title) {
-            m_complaints << s("expected '%1', found '%2'").arg(title, dialog->windowTitle());
-            dialog->close();
+    return expect([=](QWidget *dialog) {
+        auto *messageBox = expected<QMessageBox>(dialog, title);
+        if (messageBox == nullptr)
             return;
-        }
         m_texts << messageBox->text();
+        if (look)
+            look(messageBox);
         QTest::mouseClick(messageBox->button(static_cast<QMessageBox::StandardButton>(button)),
                           Qt::LeftButton);
     });
 }
 
-DialogDriver &DialogDriver::expectFile(const QString &title, const QString &path)
+DialogDriver &DialogDriver::expectFile(const char *title, const QString &path)
 {
-    return expect([this, title, path](QWidget *dialog) {
-        auto *fileDialog = qobject_cast<QFileDialog *>(dialog);
-        if (fileDialog == nullptr || fileDialog->windowTitle() != title) {
-            m_complaints << s("expected '%1', found '%2'").arg(title, dialog->windowTitle());
-            dialog->close();
+    return expect([=](QWidget *dialog) {
+        auto *fileDialog = expected<QFileDialog>(dialog, title);
+        if (fileDialog == nullptr)
             return;
-        }
         if (path.isEmpty()) {
             QTest::keyClick(fileDialog, Qt::Key_Escape);
             return;
@@ -264,13 +249,9 @@ DialogDriver &DialogDriver::expectFile(const QString &title, const QString &path
     });
 }
 
-DialogDriver &DialogDriver::expectReplacement()
+DialogDriver &DialogDriver::expectReplacement(const char *title, const QString &path)
 {
-    return expect([](QWidget *dialog) {
-        auto *question = qobject_cast<QMessageBox *>(dialog);
-        QVERIFY(question != nullptr);
-        QTest::mouseClick(question->button(QMessageBox::Yes), Qt::LeftButton);
-    });
+    return expectFile(title, path).expectBox(title, QMessageBox::Yes);
 }
 
 void DialogDriver::answerNext()
@@ -279,15 +260,13 @@ void DialogDriver::answerNext()
     QWidget *dialog = QApplication::activeModalWidget();
     if (dialog == nullptr || !dialog->isVisible())
         return;
-    if (m_next == m_answers.size()) {
-        const auto *messageBox = qobject_cast<QMessageBox *>(dialog);
-        m_complaints << s("nobody expects '%1': %2")
-                                .arg(dialog->windowTitle(),
-                                     messageBox != nullptr ? messageBox->text() : QString());
-        dialog->close();
+    if (m_next < m_answers.size()) {
+        m_answers[m_next++](dialog);
         return;
     }
-    m_answers[m_next++](dialog);
+    m_complaints << s("nobody expects '%1': %2")
+                            .arg(dialog->windowTitle(), dialog->property("text").toString());
+    dialog->close();
 }
 
 bool DialogDriver::check()
@@ -297,4 +276,19 @@ bool DialogDriver::check()
     for (const QString &complaint : m_complaints)
         qWarning("%s", qPrintable(complaint));
     return m_complaints.isEmpty();
+}
+
+void EditorTest::init()
+{
+    m = std::make_unique<EditorHarness>();
+    m->open();
+    dialogs = std::make_unique<DialogDriver>();
+}
+
+void EditorTest::cleanup()
+{
+    const bool cameAsExpected = dialogs->check();
+    dialogs.reset();
+    m.reset();
+    QVERIFY2(cameAsExpected, "other dialogs came than the test expects");
 }

@@ -3,28 +3,12 @@
 #include <UiCustomizations/QvelMessageLog.h>
 
 #include <QApplication>
-#include <QComboBox>
-#include <QDialog>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QLineEdit>
 #include <QListView>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QTreeView>
 #include <QtTest>
 
 #include <random>
-
-namespace {
-
-QString s(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-} // namespace
 
 /// Clicks and types at random while files change underneath; after each step the widgets must
 /// agree with the store. CUI_MONKEY_SECONDS says for how long.
@@ -39,10 +23,16 @@ private:
     void act();
     void answerDialog();
     void changeFiles();
+    void clickButton();
     void compare();
     void compareList();
     void compareField(const CUI::ActionIdentifier &current);
-    unsigned below(unsigned limit) { return unsigned(m_random()) % limit; }
+    int below(int limit) { return int(m_random() % unsigned(limit)); }
+    template <typename List>
+    auto oneOf(const List &list)
+    {
+        return list.at(below(list.size()));
+    }
 
     std::mt19937 m_random{20};
     EditorHarness m;
@@ -59,8 +49,7 @@ void TestHotkeyEditorMonkey::answerDialog()
         QTest::keyClick(dialog, Qt::Key_Escape);
         return;
     }
-    const QList<QAbstractButton *> buttons = messageBox->buttons();
-    QAbstractButton *button = buttons.at(int(below(unsigned(buttons.size()))));
+    QAbstractButton *button = oneOf(messageBox->buttons());
     // Others open the desktop's programs.
     if (messageBox->standardButton(button) == QMessageBox::NoButton)
         button = messageBox->button(QMessageBox::Ok);
@@ -69,8 +58,7 @@ void TestHotkeyEditorMonkey::answerDialog()
 
 void TestHotkeyEditorMonkey::changeFiles()
 {
-    const QStringList names{s("user/Mine.hsx"), s("user/Other.hsx"), s("user/New.hsx")};
-    const QString &name = names.at(int(below(3)));
+    const QString name = oneOf(list("user/Mine.hsx|user/Other.hsx|user/New.hsx"));
     switch (below(4)) {
     case 0:
         QFile::remove(m.host.path(name));
@@ -87,83 +75,69 @@ void TestHotkeyEditorMonkey::changeFiles()
 
 void TestHotkeyEditorMonkey::act()
 {
-    static const QVector<int> keys{Qt::Key_A,      Qt::Key_B,   Qt::Key_S, Qt::Key_F5,
-                                   Qt::Key_Escape, Qt::Key_Tab, Qt::Key_1};
-    const auto key = Qt::Key(keys.at(int(below(unsigned(keys.size())))));
+    const auto key = oneOf(QVector<Qt::Key>{Qt::Key_A, Qt::Key_B, Qt::Key_S, Qt::Key_F5,
+                                            Qt::Key_Escape, Qt::Key_Tab, Qt::Key_1});
     const auto modifiers = below(2) == 0 ? Qt::NoModifier : Qt::ControlModifier;
-    auto *search = m.child<QLineEdit>("HotkeyEditor_searchLineEdit");
-    const QVector<const char *> buttons{
-            "HotkeyEditor_assignShortcutBtn",  "HotkeyEditor_removeShortcutBtn",
-            "HotkeyEditor_undoRemoveBtn",      "HotkeyEditor_removeAssignedButton",
-            "HotkeyEditor_undoAssignedButton", "HotkeyEditor_hotkeyRadioButton",
-            "HotkeyEditor_actionRadioButton"};
     switch (below(12)) {
-    case 0: {
-        auto *tree = m.child<QTreeView>("HotkeyEditor_keyActionsTreeView");
-        const int row = int(below(5));
-        QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          tree->visualRect(tree->model()->index(row, 0)).center());
+    case 0:
+        QTest::mouseClick(m.tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          m.tree()->visualRect(m.tree()->model()->index(below(5), 0)).center());
         break;
-    }
     case 1:
-        QTest::keyClick(search, key, modifiers);
+        QTest::keyClick(m.search(), key, modifiers);
         break;
     case 2:
-        search->clear();
+        m.search()->clear();
         break;
-    case 3: {
-        auto *sets = m.child<QComboBox>("HotkeyEditor_hotkeySetComboBox");
-        sets->setCurrentIndex(int(below(unsigned(sets->count() + 1))) - 1);
+    case 3:
+        m.sets()->setCurrentIndex(below(m.sets()->count() + 1) - 1);
         break;
-    }
     case 4:
-        m.child<QComboBox>("HotkeyEditor_hotkeyFilterComboBox")->setCurrentIndex(int(below(4)));
+        m.child<QComboBox>("HotkeyEditor_hotkeyFilterComboBox")->setCurrentIndex(below(4));
         break;
     case 5:
-        m.child<QComboBox>("HotkeyEditor_contextComboBox")->setCurrentIndex(int(below(3)));
+        m.child<QComboBox>("HotkeyEditor_contextComboBox")->setCurrentIndex(below(3));
         break;
     case 6:
         changeFiles();
         break;
     case 7:
-        m.triggerOption(below(2) == 0 ? s("Save") : s("Reset"));
+        m.triggerOption(below(2) == 0 ? "Save" : "Reset");
         break;
     case 8:
         if (below(5) == 0)
             m.editor->transformationListWidget();
         break;
-    default: {
+    default:
         if (below(2) == 0)
-            QTest::keyClick(m.child<QLineEdit>("HotkeyEditor_shortcutLineEdit"), key, modifiers);
-        const auto found = m.editor->findChildren<QWidget *>(
-                QLatin1String(buttons.at(int(below(unsigned(buttons.size()))))));
-        if (!found.isEmpty() && found.first()->isVisible())
-            QTest::mouseClick(found.first(), Qt::LeftButton);
+            m.press(key, modifiers);
+        clickButton();
     }
-    }
+}
+
+void TestHotkeyEditorMonkey::clickButton()
+{
+    const auto *button = m.editor->findChild<QWidget *>(
+            s("HotkeyEditor_")
+            + oneOf(list("assignShortcutBtn|removeShortcutBtn|undoRemoveBtn|removeAssignedButton|"
+                         "undoAssignedButton|hotkeyRadioButton|actionRadioButton")));
+    if (button != nullptr && button->isVisible())
+        m.click(button->objectName().toLatin1());
 }
 
 void TestHotkeyEditorMonkey::compare()
 {
     for (int row = 0; row < m.model->rowCount(); ++row) {
         const CUI::VelAction *action = m.model->velActionFromModelIdx(m.model->index(row, 0));
-        QCOMPARE(m.model->index(row, 1).data().toString(),
-                 m.manager.getShortcutsFromActionId(action->identifier()));
+        QCOMPARE(m.model->index(row, 1).data().toString(), m.hotkeys(action->identifier()));
     }
     QCOMPARE(m.editor->isModified(), m.manager.isUserModified());
     compareList();
-    if (QTest::currentTestFailed())
-        return;
     const CUI::VelAction *current = m.editor->currentAction();
-    if (current == nullptr || !m.child<QWidget>("newHotkeysGroupBox")->isVisible())
+    if (current == nullptr || !m.shows("newHotkeysGroupBox"))
         return;
-    QStringList shown;
-    for (const QString &text : m.assigned().split(s(", "), Qt::SkipEmptyParts)) {
-        if (!text.startsWith(QLatin1Char('(')))
-            shown << text;
-    }
-    QStringList held = m.manager.getShortcutsFromActionId(current->identifier())
-                               .split(s(", "), Qt::SkipEmptyParts);
+    QStringList shown = m.assigned().split(s(", ")).filter(QRegularExpression(s("^[^(]")));
+    QStringList held = m.hotkeys(current->identifier()).split(s(", "), Qt::SkipEmptyParts);
     shown.sort();
     held.sort();
     QCOMPARE(shown, held);
@@ -173,31 +147,24 @@ void TestHotkeyEditorMonkey::compare()
 // The window of the recorded steps.
 void TestHotkeyEditorMonkey::compareList()
 {
-    const auto *dialog = m.editor->findChild<QDialog *>();
-    if (dialog == nullptr)
+    const auto *window = m.editor->findChild<QDialog *>();
+    if (window == nullptr)
         return;
-    const QAbstractItemModel *list = dialog->findChild<QListView *>()->model();
-    QStringList listed;
-    for (int row = 0; row < list->rowCount(); ++row)
-        listed << list->index(row, 0).data().toString();
     QStringList recorded;
     for (const CUI::ShortcutTransformation &step : m.manager.currentTransformations())
         recorded << step.toString();
-    QCOMPARE(listed, recorded);
+    QCOMPARE(EditorHarness::textsOf(window->findChild<QListView *>()->model()), recorded);
 }
 
 // What can be assigned is free, and what another action holds is shown as a conflict.
 void TestHotkeyEditorMonkey::compareField(const CUI::ActionIdentifier &current)
 {
-    const QKeySequence typed(m.child<QLineEdit>("HotkeyEditor_shortcutLineEdit")->text(),
-                             QKeySequence::NativeText);
+    const QKeySequence typed(m.field()->text(), QKeySequence::NativeText);
     const CUI::ActionIdentifier holder = m.manager.getActionIdFromShortcut(
             typed.toString(QKeySequence::PortableText), current.tableId);
     const bool isFree = holder.isEmpty() || holder == current;
-    const auto *conflict = m.child<QWidget>("HotkeyEditor_removeShortcutBtn");
-    const auto *assign = m.child<QWidget>("HotkeyEditor_assignShortcutBtn");
-    QCOMPARE(conflict->isVisible(), !isFree);
-    QCOMPARE(assign->isEnabled(), isFree && !typed.isEmpty());
+    QCOMPARE(m.shows("HotkeyEditor_removeShortcutBtn"), !isFree);
+    QCOMPARE(m.canAssign(), isFree && !typed.isEmpty());
 }
 
 void TestHotkeyEditorMonkey::widgetsAgreeWithTheStore()
@@ -208,9 +175,10 @@ void TestHotkeyEditorMonkey::widgetsAgreeWithTheStore()
     dialogs.callOnTimeout([this] { answerDialog(); });
     dialogs.start(1);
     const int seconds = qMax(3, qEnvironmentVariableIntValue("CUI_MONKEY_SECONDS"));
+    QElapsedTimer time;
+    time.start();
     int steps = 0;
-    for (QElapsedTimer time;
-         time.isValid() ? time.elapsed() < seconds * 1000 : (time.start(), true); ++steps) {
+    for (; time.elapsed() < seconds * 1000; ++steps) {
         act();
         QCoreApplication::processEvents();
         compare();

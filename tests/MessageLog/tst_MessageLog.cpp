@@ -1,5 +1,6 @@
 #include "FullDisk.h"
 #include "TestHost.h"
+#include "Text.h"
 
 #include <UiCustomizations/QvelFileMessageLogger.h>
 #include <UiCustomizations/QvelMessageLog.h>
@@ -22,10 +23,7 @@ private Q_SLOTS:
     void filtersAndFormats_data();
     void filtersAndFormats();
     void capsNest();
-    void ignoresCapOfNullLog();
     void fileLoggerReplacesOldFile();
-    void fileLoggerOpensLate();
-    void fileLoggerWithoutFolderKeepsTrying();
     void fileLoggerWritesOnAfterFailure();
     void fileLoggerWithoutPathIsSilent();
 
@@ -45,9 +43,9 @@ QString TestMessageLog::logged(int type)
     QSignalSpy lines(&m_log, &QvelMessageLog::messageLogged);
     const auto messageType = static_cast<QvelMessageLog::MessageType>(type);
     const bool expected = m_log.isLogged(messageType);
-    m_log.logMessage(QStringLiteral("50% of %1"), messageType);
+    m_log.logMessage(s("50% of %1"), messageType);
     if (lines.count() != int(expected))
-        return QStringLiteral("isLogged() does not agree with logMessage()");
+        return s("isLogged() does not agree with logMessage()");
     return lines.isEmpty() ? QString() : lines.at(0).at(0).toString();
 }
 
@@ -58,25 +56,23 @@ void TestMessageLog::filtersAndFormats_data()
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("line");
 
-    const QString none;
-    const QString bare = QStringLiteral("50% of %1");
-    const QString warning = QStringLiteral("Warning: 50% of %1");
-    QTest::newRow("error") << 2 << QVector<int>() << 1 << "Error: 50% of %1";
-    QTest::newRow("warning") << 2 << QVector<int>() << 2 << warning;
-    QTest::newRow("info is above warning") << 2 << QVector<int>() << 3 << none;
-    QTest::newRow("info") << 3 << QVector<int>() << 3 << bare;
-    QTest::newRow("debug is above info") << 3 << QVector<int>() << 4 << none;
-    QTest::newRow("debug") << 4 << QVector<int>() << 4 << "Debug: 50% of %1";
-    QTest::newRow("errors only") << 1 << QVector<int>() << 2 << none;
-    QTest::newRow("silent") << 0 << QVector<int>() << 1 << none;
-    QTest::newRow("unknown type") << 2 << QVector<int>() << 0 << bare;
-    QTest::newRow("unknown type above the level") << 4 << QVector<int>() << 5 << none;
-    QTest::newRow("cap raises") << 2 << QVector<int>{2} << 4 << warning;
-    QTest::newRow("cap above the level") << 2 << QVector<int>{3} << 4 << none;
-    QTest::newRow("cap at the level") << 3 << QVector<int>{3} << 4 << bare;
-    QTest::newRow("cap never lowers") << 4 << QVector<int>{3} << 1 << "Error: 50% of %1";
-    QTest::newRow("inner cap cannot relax") << 2 << QVector<int>{2, 3} << 4 << warning;
-    QTest::newRow("inner cap can tighten") << 2 << QVector<int>{3, 2} << 4 << warning;
+    using Caps = QVector<int>;
+    const auto row = [](const char *name, int level, const Caps &caps, int type, const char *line) {
+        QTest::newRow(name) << level << caps << type << s(line);
+    };
+    row("error", 2, {}, 1, "Error: 50% of %1");
+    row("warning", 2, {}, 2, "Warning: 50% of %1");
+    row("info is above warning", 2, {}, 3, "");
+    row("info", 3, {}, 3, "50% of %1");
+    row("debug", 4, {}, 4, "Debug: 50% of %1");
+    row("silent", 0, {}, 1, "");
+    row("unknown type", 2, {}, 0, "50% of %1");
+    row("unknown type above the level", 4, {}, 5, "");
+    row("cap raises", 2, {2}, 4, "Warning: 50% of %1");
+    row("cap above the level", 2, {3}, 4, "");
+    row("cap never lowers", 4, {3}, 1, "Error: 50% of %1");
+    row("inner cap cannot relax", 2, {2, 3}, 4, "Warning: 50% of %1");
+    row("inner cap can tighten", 2, {3, 2}, 4, "Warning: 50% of %1");
 }
 
 void TestMessageLog::filtersAndFormats()
@@ -96,68 +92,45 @@ void TestMessageLog::filtersAndFormats()
 
 void TestMessageLog::capsNest()
 {
+    const ScopedMessageTypeCap none(nullptr, QvelMessageLog::Error);
+    QVERIFY(logged(QvelMessageLog::Debug).isNull());
     {
         const ScopedMessageTypeCap outer(&m_log, QvelMessageLog::Warning);
         {
             const ScopedMessageTypeCap inner(&m_log, QvelMessageLog::Error);
-            QVERIFY(logged(QvelMessageLog::Debug).startsWith(QLatin1String("Error")));
+            QVERIFY(logged(QvelMessageLog::Debug).startsWith(s("Error")));
         }
-        QVERIFY(logged(QvelMessageLog::Debug).startsWith(QLatin1String("Warning")));
+        QVERIFY(logged(QvelMessageLog::Debug).startsWith(s("Warning")));
     }
-    QVERIFY(logged(QvelMessageLog::Debug).isNull());
-}
-
-void TestMessageLog::ignoresCapOfNullLog()
-{
-    const ScopedMessageTypeCap cap(nullptr, QvelMessageLog::Error);
     QVERIFY(logged(QvelMessageLog::Debug).isNull());
 }
 
 void TestMessageLog::fileLoggerReplacesOldFile()
 {
     TestHost host;
-    host.paths()->logFile = host.write(QStringLiteral("log.txt"), "old line\nolder line\n");
+    host.paths()->logFile = host.write(s("log.txt"), "old line\nolder line\n");
     QvelFileMessageLogger logger;
     connect(&m_log, &QvelMessageLog::messageLogged, &logger, &QvelFileMessageLogger::logMessage);
     QCOMPARE(TestHost::read(host.paths()->logFile), QByteArray("old line\nolder line\n"));
-    m_log.logWarningMessage(QStringLiteral("one"));
+    m_log.logWarningMessage(s("one"));
     QCOMPARE(TestHost::read(host.paths()->logFile), QByteArray("Warning: one\n"));
-    m_log.logErrorMessage(QStringLiteral("two"));
+    m_log.logErrorMessage(s("two"));
     QCOMPARE(TestHost::read(host.paths()->logFile), QByteArray("Warning: one\nError: two\n"));
-}
-
-void TestMessageLog::fileLoggerOpensLate()
-{
-    TestHost host;
-    host.paths()->logFile = host.path(QStringLiteral("log.txt"));
-    {
-        QvelFileMessageLogger logger;
-    }
-    QVERIFY(!QFile::exists(host.paths()->logFile));
-}
-
-void TestMessageLog::fileLoggerWithoutFolderKeepsTrying()
-{
-    TestHost host;
-    host.paths()->logFile = host.path(QStringLiteral("later/log.txt"));
-    QvelFileMessageLogger logger;
-    logger.logMessage(QStringLiteral("lost"));
-    QVERIFY(QDir(host.path(QString())).mkdir(QStringLiteral("later")));
-    logger.logMessage(QStringLiteral("kept"));
-    QCOMPARE(TestHost::read(host.paths()->logFile), QByteArray("kept\n"));
 }
 
 void TestMessageLog::fileLoggerWritesOnAfterFailure()
 {
-    TestHost host;
-    host.paths()->logFile = host.path(QStringLiteral("log.txt"));
+    const TestHost host;
+    host.paths()->logFile = host.path(s("later/log.txt"));
     QvelFileMessageLogger logger;
-    logger.logMessage(QStringLiteral("one"));
+    logger.logMessage(s("lost for want of a folder"));
+    QVERIFY(QDir(host.path(QString())).mkdir(s("later")));
+    logger.logMessage(s("one"));
     {
         const FullDisk disk(4);
-        logger.logMessage(QStringLiteral("lost"));
+        logger.logMessage(s("lost for want of room"));
     }
-    logger.logMessage(QStringLiteral("two"));
+    logger.logMessage(s("two"));
     QCOMPARE(TestHost::read(host.paths()->logFile), QByteArray("one\ntwo\n"));
 }
 
@@ -167,7 +140,7 @@ void TestMessageLog::fileLoggerWithoutPathIsSilent()
     const QtMessageHandler before = qInstallMessageHandler(
             [](QtMsgType, const QMessageLogContext &, const QString &) { ++warnings; });
     QvelFileMessageLogger logger;
-    logger.logMessage(QStringLiteral("nowhere to go"));
+    logger.logMessage(s("nowhere to go"));
     qInstallMessageHandler(before);
     QCOMPARE(warnings, 0);
 }

@@ -1,4 +1,5 @@
 #include "TestHost.h"
+#include "Text.h"
 
 #include <UiCustomizations/QvelActionBinder.h>
 #include <UiCustomizations/QvelMessageLog.h>
@@ -46,7 +47,7 @@ QStringList registered()
     const ICuiActionManager *registry = ICuiActionManager::get();
     for (const auto &[id, action] : registry->actions()) {
         const CUI::VelActionContext *context = registry->getActionContext(action->contextId());
-        lines << QStringLiteral("%1: %2/%3/%4")
+        lines << s("%1: %2/%3/%4")
                          .arg(id.toString(), context->name(), action->category(), action->name());
     }
     lines.sort();
@@ -60,9 +61,9 @@ QString keysOf(const QAction *action)
 
 QAction *addTo(QMenu *menu, const char *text, const char *shortcut = "", const char *name = "")
 {
-    QAction *action = menu->addAction(QString::fromUtf8(text));
-    action->setShortcut(QKeySequence(QLatin1String(shortcut)));
-    action->setObjectName(QLatin1String(name));
+    QAction *action = menu->addAction(s(text));
+    action->setShortcut(QKeySequence(s(shortcut)));
+    action->setObjectName(s(name));
     return action;
 }
 
@@ -77,60 +78,53 @@ void TestActionAdoption::cleanup()
 void TestActionAdoption::registersWhatAWindowHas()
 {
     QMainWindow window;
-    window.setWindowTitle(QStringLiteral("[*] Drawing"));
-    QMenu *file = window.menuBar()->addMenu(QStringLiteral("&File"));
+    window.setWindowTitle(s("[*] Drawing"));
+    QMenu *file = window.menuBar()->addMenu(s("&File"));
     addTo(file, "&Open...", "Ctrl+O");
     file->addSeparator();
-    file->addSection(QStringLiteral("Recent"));
-    QMenu *exports = file->addMenu(QStringLiteral("&Export"));
+    file->addSection(s("Recent"));
+    QMenu *exports = file->addMenu(s("&Export"));
     addTo(exports, "Picture");
     addTo(exports, "&Picture...");
     addTo(exports, "Named", "", "exportPicture2");
     QAction *both = addTo(file, "Print");
-    window.menuBar()->addAction(QStringLiteral("Help"));
+    window.menuBar()->addAction(s("Help"));
 
-    QToolBar *bar = window.addToolBar(QStringLiteral("Quick &Tools"));
+    QToolBar *bar = window.addToolBar(s("Quick &Tools"));
     bar->addAction(both);
     bar->addWidget(new QComboBox);
     auto *field = new QLineEdit;
     field->setClearButtonEnabled(true);
     bar->addWidget(field);
-    bar->addAction(QStringLiteral("Brush"));
+    bar->addAction(s("Brush"));
     auto *button = new QToolButton;
-    auto *colours = new QMenu(QStringLiteral("Colour"), button);
+    auto *colours = new QMenu(s("Colour"), button);
     addTo(colours, "Red");
     button->setMenu(colours);
     bar->addWidget(button);
 
-    auto *hidden = new QAction(QStringLiteral("Nudge"), &window);
-    window.addAction(hidden);
-    addTo(new QMenu(QStringLiteral("Popup"), &window), "Paste");
-    auto *dialog = new QDialog(&window);
-    auto *dialogBar = new QMenuBar(dialog);
-    addTo(dialogBar->addMenu(QStringLiteral("Dialog")), "Other");
-    auto *dock = new QDockWidget(QStringLiteral("Layers"));
+    window.addAction(new QAction(s("Nudge"), &window));
+    addTo(new QMenu(s("Popup"), &window), "Paste");
+    auto *dialogBar = new QMenuBar(new QDialog(&window));
+    addTo(dialogBar->addMenu(s("Dialog")), "Other"); // a window of its own
+    auto *dock = new QDockWidget(s("Layers"));
     window.addDockWidget(Qt::LeftDockWidgetArea, dock);
     dock->setFloating(true);
-    auto *inner = new QToolBar(QStringLiteral("Layer"), dock);
-    inner->addAction(QStringLiteral("New"));
+    (new QToolBar(s("Layer"), dock))->addAction(s("New"));
 
     QvelShortcutManager store;
     QvelActionBinder binder(&store);
     QCOMPARE(binder.adopt(&window, 5), 1UL);
-    QCOMPARE(registered(), QStringList({
-                                   QStringLiteral("5-colourRed: Drawing/Colour/Red"),
-                                   QStringLiteral("5-exportPicture2: Drawing/Export/Named"),
-                                   QStringLiteral("5-exportPicture3: Drawing/Export/Picture"),
-                                   QStringLiteral("5-exportPicture: Drawing/Export/Picture"),
-                                   QStringLiteral("5-fileOpen: Drawing/File/Open"),
-                                   QStringLiteral("5-filePrint: Drawing/File/Print"),
-                                   QStringLiteral("5-help: Drawing//Help"),
-                                   QStringLiteral("5-layerNew: Drawing/Layer/New"),
-                                   QStringLiteral("5-nudge: Drawing//Nudge"),
-                                   QStringLiteral("5-popupPaste: Drawing/Popup/Paste"),
-                                   QStringLiteral("5-quickToolsBrush: Drawing/Quick Tools/Brush"),
-                           }));
-    QCOMPARE(binder.identifierOf(both), ActionIdentifier({5, QStringLiteral("filePrint")}));
+    QCOMPARE(registered(),
+             QStringList({s("5-colourRed: Drawing/Colour/Red"),
+                          s("5-exportPicture2: Drawing/Export/Named"),
+                          s("5-exportPicture3: Drawing/Export/Picture"),
+                          s("5-exportPicture: Drawing/Export/Picture"),
+                          s("5-fileOpen: Drawing/File/Open"), s("5-filePrint: Drawing/File/Print"),
+                          s("5-help: Drawing//Help"), s("5-layerNew: Drawing/Layer/New"),
+                          s("5-nudge: Drawing//Nudge"), s("5-popupPaste: Drawing/Popup/Paste"),
+                          s("5-quickToolsBrush: Drawing/Quick Tools/Brush")}));
+    QCOMPARE(binder.identifierOf(both), ActionIdentifier({5, s("filePrint")}));
     QCOMPARE(binder.adopt(nullptr), 0UL);
 }
 
@@ -141,8 +135,7 @@ void TestActionAdoption::plainTextsAndNames_data()
     QTest::addColumn<QString>("line");
 
     const auto row = [](const char *menu, const char *text, const char *line) {
-        QTest::newRow(text) << QString::fromUtf8(menu) << QString::fromUtf8(text)
-                            << QString::fromUtf8(line);
+        QTest::newRow(text) << s(menu) << s(text) << s(line);
     };
     row("&File", "Save &As...", "1-fileSaveAs: Window/File/Save As");
     row("&File", "Open\u2026", "1-fileOpen: Window/File/Open");
@@ -161,9 +154,8 @@ void TestActionAdoption::plainTextsAndNames()
     QFETCH(QString, line);
 
     QWidget window;
-    window.setObjectName(QStringLiteral("Window"));
-    auto *popup = new QMenu(menu, &window);
-    popup->addAction(text);
+    window.setObjectName(s("Window"));
+    (new QMenu(menu, &window))->addAction(text);
     QvelActionBinder binder(nullptr);
     binder.adopt(&window);
     QCOMPARE(registered(), QStringList(line));
@@ -172,7 +164,7 @@ void TestActionAdoption::plainTextsAndNames()
 void TestActionAdoption::theStoreHasTheDefaultHotkeys()
 {
     QMainWindow window;
-    QMenu *file = window.menuBar()->addMenu(QStringLiteral("File"));
+    QMenu *file = window.menuBar()->addMenu(s("File"));
     QAction *open = addTo(file, "Open", "Ctrl+O");
     open->setShortcuts({QKeySequence(Qt::CTRL + Qt::Key_O),
                         QKeySequence(Qt::KeypadModifier + Qt::Key_5), QKeySequence(Qt::Key_F3)});
@@ -189,34 +181,33 @@ void TestActionAdoption::theStoreHasTheDefaultHotkeys()
     }
     QvelActionBinder binder(&store);
     binder.adopt(&window);
-    QCOMPARE(lines, QStringList(QStringLiteral(
-                            "Warning: Shortcut 'Ctrl+K, Ctrl+C' for Action '1-fileChord' is more "
-                            "than one key combination and is left out.")));
+    QCOMPARE(lines,
+             QStringList(s("Warning: Shortcut 'Ctrl+K, Ctrl+C' for Action '1-fileChord' is more "
+                           "than one key combination and is left out.")));
     QCOMPARE(keysOf(open), QString()); // not loaded yet
     store.loadCurrentShortcutConfiguration();
-    QCOMPARE(keysOf(open), QStringLiteral("Ctrl+O; Num+5"));
-    QCOMPARE(keysOf(taker), QStringLiteral("F3"));
+    QCOMPARE(keysOf(open), s("Ctrl+O; Num+5"));
+    QCOMPARE(keysOf(taker), s("F3"));
     QCOMPARE(keysOf(chord), QString());
-    QCOMPARE(open->toolTip(), QStringLiteral("Open (Ctrl+O)"));
-    QVERIFY2(lines.contains(QLatin1String("Warning: Removing existing shortcut 'F3' from "
-                                          "'1-fileOpen' and assigning it to '1-fileTaker'.")),
-             qPrintable(lines.join(QLatin1Char('\n'))));
+    QCOMPARE(open->toolTip(), s("Open (Ctrl+O)"));
+    QVERIFY(lines.contains(s("Warning: Removing existing shortcut 'F3' from '1-fileOpen' and "
+                             "assigning it to '1-fileTaker'.")));
     QVERIFY(!store.isUserModified());
-    QCOMPARE(store.getBaseShortcutsFromActionId(binder.identifierOf(taker)), QStringLiteral("F3"));
+    QCOMPARE(store.getBaseShortcutsFromActionId(binder.identifierOf(taker)), s("F3"));
     disconnect(&CUI::QvelMessageLog::getInstance(), nullptr, this, nullptr);
 }
 
 void TestActionAdoption::loadsAndKeysWork()
 {
     QTemporaryDir folder;
-    const QString set = folder.filePath(QStringLiteral("mine.hsx"));
+    const QString set = folder.filePath(s("mine.hsx"));
     QMainWindow window;
     QStringList triggered;
-    QAction *undo = addTo(window.menuBar()->addMenu(QStringLiteral("&Edit")), "&Undo", "Ctrl+Z");
-    connect(undo, &QAction::triggered, this, [&triggered] { triggered << QStringLiteral("undo"); });
-    QToolBar *bar = window.addToolBar(QStringLiteral("Edit"));
-    QAction *redo = bar->addAction(QStringLiteral("Redo"));
-    connect(redo, &QAction::triggered, this, [&triggered] { triggered << QStringLiteral("redo"); });
+    QAction *undo = addTo(window.menuBar()->addMenu(s("&Edit")), "&Undo", "Ctrl+Z");
+    connect(undo, &QAction::triggered, this, [&triggered] { triggered << s("undo"); });
+    QToolBar *bar = window.addToolBar(s("Edit"));
+    QAction *redo = bar->addAction(s("Redo"));
+    connect(redo, &QAction::triggered, this, [&triggered] { triggered << s("redo"); });
     QvelShortcutManager store;
     QvelActionBinder binder(&store);
     binder.adopt(&window);
@@ -225,26 +216,26 @@ void TestActionAdoption::loadsAndKeysWork()
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    const auto pressed = [&](Qt::Key key) {
-        QTest::keyClick(&window, key, Qt::ControlModifier);
+    const auto pressed = [&] {
+        QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
         return std::exchange(triggered, {}).join(QLatin1Char(' '));
     };
-    QCOMPARE(pressed(Qt::Key_Z), QStringLiteral("undo"));
-    store.assignShortcut(binder.identifierOf(redo), QStringLiteral("Ctrl+Z"), QString());
-    QCOMPARE(pressed(Qt::Key_Z), QStringLiteral("redo"));
-    QCOMPARE(bar->widgetForAction(redo)->toolTip(), QStringLiteral("Redo (Ctrl+Z)"));
+    QCOMPARE(pressed(), s("undo"));
+    store.assignShortcut(binder.identifierOf(redo), s("Ctrl+Z"), QString());
+    QCOMPARE(pressed(), s("redo"));
+    QCOMPARE(bar->widgetForAction(redo)->toolTip(), s("Redo (Ctrl+Z)"));
     QVERIFY(store.saveShortcutTransforms(set));
     store.loadShortcutConfiguration(QString());
-    QCOMPARE(pressed(Qt::Key_Z), QStringLiteral("undo"));
+    QCOMPARE(pressed(), s("undo"));
     store.loadShortcutConfiguration(set);
-    QCOMPARE(pressed(Qt::Key_Z), QStringLiteral("redo"));
+    QCOMPARE(pressed(), s("redo"));
 
     ICuiActionManager *registry = ICuiActionManager::get();
     QVERIFY(registry->triggerAction(binder.identifierOf(undo)));
     undo->setEnabled(false);
     QVERIFY(!registry->triggerAction(binder.identifierOf(undo)));
-    QVERIFY(!registry->triggerAction({1, QStringLiteral("nothing")}));
-    QCOMPARE(triggered, QStringList(QStringLiteral("undo")));
+    QVERIFY(!registry->triggerAction({1, s("nothing")}));
+    QCOMPARE(triggered, QStringList(s("undo")));
 }
 
 void TestActionAdoption::windowsOfOneKindShareTheirHotkeys()
@@ -252,8 +243,8 @@ void TestActionAdoption::windowsOfOneKindShareTheirHotkeys()
     struct Document : QMainWindow {
         Document()
         {
-            setObjectName(QStringLiteral("Document"));
-            save = addTo(menuBar()->addMenu(QStringLiteral("File")), "Save", "Ctrl+S");
+            setObjectName(s("Document"));
+            save = addTo(menuBar()->addMenu(s("File")), "Save", "Ctrl+S");
         }
         QAction *save;
     };
@@ -263,36 +254,36 @@ void TestActionAdoption::windowsOfOneKindShareTheirHotkeys()
     const unsigned long context = binder.adopt(first.get());
     store.loadCurrentShortcutConfiguration();
     const ActionIdentifier save = binder.identifierOf(first->save);
-    store.assignShortcut(save, QStringLiteral("F9"), QString());
+    store.assignShortcut(save, s("F9"), QString());
     Document second;
     QCOMPARE(binder.adopt(&second), context);
     QCOMPARE(binder.identifierOf(second.save), save);
-    QCOMPARE(keysOf(second.save), QStringLiteral("Ctrl+S; F9"));
+    QCOMPARE(keysOf(second.save), s("Ctrl+S; F9"));
     first.reset();
     QVERIFY(ICuiActionManager::get()->triggerAction(save));
 
     // The same names in another context are other actions.
     Document other;
-    const unsigned long otherContext = binder.adopt(&other, 1, {}, QStringLiteral("Other"));
+    const unsigned long otherContext = binder.adopt(&other, 1, {}, s("Other"));
     QVERIFY(otherContext != context);
-    QCOMPARE(binder.identifierOf(other.save), ActionIdentifier({1, QStringLiteral("fileSave2")}));
+    QCOMPARE(binder.identifierOf(other.save), ActionIdentifier({1, s("fileSave2")}));
     store.loadCurrentShortcutConfiguration();
-    QCOMPARE(keysOf(second.save) + keysOf(other.save), QStringLiteral("Ctrl+SCtrl+S"));
+    QCOMPARE(keysOf(second.save) + keysOf(other.save), s("Ctrl+SCtrl+S"));
 }
 
 void TestActionAdoption::partsAndLatecomers()
 {
     QMainWindow window;
-    window.setWindowTitle(QStringLiteral("Studio"));
-    QMenu *edit = window.menuBar()->addMenu(QStringLiteral("Edit"));
+    window.setWindowTitle(s("Studio"));
+    QMenu *edit = window.menuBar()->addMenu(s("Edit"));
     addTo(edit, "Copy", "Ctrl+C");
     window.setCentralWidget(new QLineEdit);
-    auto *dock = new QDockWidget(QStringLiteral("Mesh"));
+    auto *dock = new QDockWidget(s("Mesh"));
     window.addDockWidget(Qt::LeftDockWidgetArea, dock);
     auto *content = new QWidget;
     content->setFocusPolicy(Qt::StrongFocus);
     dock->setWidget(content);
-    auto *bevel = new QAction(QStringLiteral("Copy"), dock);
+    auto *bevel = new QAction(s("Copy"), dock);
     bevel->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_C));
     dock->addAction(bevel);
     edit->addAction(bevel);
@@ -304,12 +295,10 @@ void TestActionAdoption::partsAndLatecomers()
     QCOMPARE(binder.adopt(&window), 1UL);
     QAction *late = addTo(edit, "Copy", "F4");
     QCOMPARE(binder.adopt(&window), 1UL);
-    QCOMPARE(binder.identifierOf(late), ActionIdentifier({1, QStringLiteral("editCopy2")}));
-    QCOMPARE(registered(), QStringList({
-                                   QStringLiteral("1-editCopy2: Studio/Edit/Copy"),
-                                   QStringLiteral("1-editCopy: Studio/Edit/Copy"),
-                                   QStringLiteral("2-copy: Mesh//Copy"),
-                           }));
+    QCOMPARE(binder.identifierOf(late), ActionIdentifier({1, s("editCopy2")}));
+    QCOMPARE(registered(),
+             QStringList({s("1-editCopy2: Studio/Edit/Copy"), s("1-editCopy: Studio/Edit/Copy"),
+                          s("2-copy: Mesh//Copy")}));
     store.loadCurrentShortcutConfiguration();
     int bevelled = 0;
     connect(bevel, &QAction::triggered, this, [&bevelled] { ++bevelled; });
@@ -327,37 +316,30 @@ void TestActionAdoption::partsAndLatecomers()
 void TestActionAdoption::usesTheRegistryOfTheApplication()
 {
     TestHost host;
-    host.registry()->addActionContext(1, QStringLiteral("Main"));
-    host.registry()->addActionContext(2, QStringLiteral("Other"));
-    host.registry()->addAction(1, QStringLiteral("save"), QStringLiteral("Save it"), 1,
-                               QStringLiteral("Own"), false);
-    host.registry()->addAction(1, QStringLiteral("load"), QStringLiteral("Load it"), 2,
-                               QStringLiteral("Own"), false);
+    host.registry()->addActionContext(1, s("Main"));
+    host.registry()->addActionContext(2, s("Other"));
+    host.registry()->addAction(1, s("save"), s("Save it"), 1, s("Own"), false);
+    host.registry()->addAction(1, s("load"), s("Load it"), 2, s("Own"), false);
     QMainWindow window;
-    QMenu *file = window.menuBar()->addMenu(QStringLiteral("File"));
+    QMenu *file = window.menuBar()->addMenu(s("File"));
     QAction *save = addTo(file, "Save", "Ctrl+S", "save");
     addTo(file, "Load", "Ctrl+L", "load");
     addTo(file, "Quit", "Ctrl+Q", "quit");
     QvelShortcutManager store;
     QvelActionBinder binder(&store);
     QCOMPARE(binder.adopt(&window, 1, 1), 1UL);
-    QCOMPARE(registered(), QStringList({
-                                   QStringLiteral("1-load2: Main/File/Load"),
-                                   QStringLiteral("1-load: Other/Own/Load it"),
-                                   QStringLiteral("1-quit: Main/File/Quit"),
-                                   QStringLiteral("1-save: Main/Own/Save it"),
-                           }));
+    QCOMPARE(registered(),
+             QStringList({s("1-load2: Main/File/Load"), s("1-load: Other/Own/Load it"),
+                          s("1-quit: Main/File/Quit"), s("1-save: Main/Own/Save it")}));
     QVERIFY(ICuiActionManager::get() == host.registry());
     // What the application has registered itself has the hotkeys that the application gives it.
     binder.defaultAccelerators(host.registry()->accelerators);
     QCOMPARE(host.registry()->accelerators,
-             (std::vector<std::pair<ActionIdentifier, QString>>{
-                     {{1, QStringLiteral("load2")}, QStringLiteral("Ctrl+L")},
-                     {{1, QStringLiteral("quit")}, QStringLiteral("Ctrl+Q")}}));
+             (std::vector<std::pair<ActionIdentifier, QString>>{{{1, s("load2")}, s("Ctrl+L")},
+                                                                {{1, s("quit")}, s("Ctrl+Q")}}));
     store.loadCurrentShortcutConfiguration();
     QCOMPARE(keysOf(save), QString());
-    QCOMPARE(store.getActionIdFromShortcut(QStringLiteral("Ctrl+Q"), 1),
-             ActionIdentifier({1, QStringLiteral("quit")}));
+    QCOMPARE(store.getActionIdFromShortcut(s("Ctrl+Q"), 1), ActionIdentifier({1, s("quit")}));
 }
 
 QTEST_MAIN(TestActionAdoption)

@@ -1,5 +1,6 @@
 #include "PlainBrowsing.h"
 #include "TestHost.h"
+#include "Text.h"
 
 #include <UiCustomizations/QvelActionItem.h>
 #include <UiCustomizations/QvelActionItemModel.h>
@@ -14,15 +15,6 @@ using CUI::ActionIdentifier;
 using CUI::QvelActionItemModel;
 using CUI::QvelShortcutManager;
 using CUI::QvelSortFilterProxyModel;
-
-namespace {
-
-QStringList list(const char *text)
-{
-    return QString::fromUtf8(text).split(QLatin1Char('|'));
-}
-
-} // namespace
 
 /// A registry, a store, a model and two proxies through which a user, a host and a file loader go
 /// at random. One proxy is as the editor's, the other filters by itself.
@@ -44,12 +36,10 @@ private:
     void changeSearch();
     void changeFilter();
     void sortAnew();
-    void reload();
     void restartTesters();
 
     void compareModel();
-    void compareProxy();
-    void compareLive();
+    void compareProxies();
     void compareLookUps();
     QVector<int> listed(const QvelSortFilterProxyModel &proxy) const;
 
@@ -105,15 +95,13 @@ void TestBrowsingRandom::cleanup()
     m_plain.reset();
     m_store.reset();
     m_host.reset();
-    CUI::QvelMessageLog::getInstance().setMessageLogLevel(CUI::QvelMessageLog::Warning);
 }
 
 void TestBrowsingRandom::restartTesters()
 {
     m_testers.clear();
-    for (QAbstractItemModel *model : {static_cast<QAbstractItemModel *>(m_model.get()),
-                                      static_cast<QAbstractItemModel *>(m_proxy.get()),
-                                      static_cast<QAbstractItemModel *>(m_live.get())})
+    for (QAbstractItemModel *model :
+         std::initializer_list<QAbstractItemModel *>{m_model.get(), m_proxy.get(), m_live.get()})
         m_testers.push_back(std::make_unique<QAbstractItemModelTester>(
                 model, QAbstractItemModelTester::FailureReportingMode::QtTest));
 }
@@ -162,7 +150,7 @@ QString TestBrowsingRandom::anySearch()
         return any(m_hotkeys);
     QString text = any(m_words).left(1 + below(3));
     if (below(2) == 0)
-        text += QStringLiteral("  ").left(below(3)) + any(m_words).left(1 + below(2));
+        text += s("  ").left(below(3)) + any(m_words).left(1 + below(2));
     return text;
 }
 
@@ -176,36 +164,37 @@ void TestBrowsingRandom::changeSearch()
 
 void TestBrowsingRandom::changeFilter()
 {
-    const int operation = below(6);
+    const auto set = [this](auto setter, auto value) {
+        for (QvelSortFilterProxyModel *proxy : {m_proxy.get(), m_live.get()})
+            (proxy->*setter)(value);
+    };
+    using Proxy = QvelSortFilterProxyModel;
     // Filters that let everything pass are the more frequent ones, or little would be listed.
     const bool isEnd = below(3) != 0;
     const int keyColumns[] = {0, 0, 0, 0, 1, 1, 1, 1, 2, -1};
-    if (operation == 0)
-        m_plain->keyColumn = keyColumns[below(10)];
-    else if (operation == 1)
-        m_plain->isRanking = !m_plain->isRanking;
-    else if (operation == 2)
+    switch (below(6)) {
+    case 0:
+        set(&Proxy::setFilterKeyColumn, m_plain->keyColumn = keyColumns[below(10)]);
+        break;
+    case 1:
+        set(&Proxy::setActionSearchSorting, m_plain->isRanking = !m_plain->isRanking);
+        break;
+    case 2:
         m_plain->category = isEnd ? m_categories.at(4) : any(m_categories);
-    else if (operation == 3)
-        m_plain->context = unsigned(below(6));
-    else if (operation == 4)
-        m_plain->hotkeyFilter = QvelSortFilterProxyModel::HotkeyFilter(isEnd ? 0 : below(4));
-    if (operation == 3 || operation == 5)
-        m_plain->hasContextFilter = operation == 3;
-
-    for (QvelSortFilterProxyModel *proxy : {m_proxy.get(), m_live.get()}) {
-        if (operation == 0)
-            proxy->setFilterKeyColumn(m_plain->keyColumn);
-        else if (operation == 1)
-            proxy->setActionSearchSorting(m_plain->isRanking);
-        else if (operation == 2)
-            proxy->setFilterSelectedCategory(m_plain->category);
-        else if (operation == 3)
-            proxy->setFilterSelectedContext(m_plain->context);
-        else if (operation == 4)
-            proxy->setSelectedHotkeyFilter(m_plain->hotkeyFilter);
-        else
-            proxy->disableContextFilter();
+        set(&Proxy::setFilterSelectedCategory, m_plain->category);
+        break;
+    case 3:
+        m_plain->hasContextFilter = true;
+        set(&Proxy::setFilterSelectedContext, m_plain->context = unsigned(below(6)));
+        break;
+    case 4:
+        m_plain->hotkeyFilter = Proxy::HotkeyFilter(isEnd ? 0 : below(4));
+        set(&Proxy::setSelectedHotkeyFilter, m_plain->hotkeyFilter);
+        break;
+    default:
+        m_plain->hasContextFilter = false;
+        m_proxy->disableContextFilter();
+        m_live->disableContextFilter();
     }
 }
 
@@ -218,12 +207,6 @@ void TestBrowsingRandom::sortAnew()
         proxy->setSortCaseSensitivity(m_plain->sortCase);
         proxy->sort(m_plain->sortColumn, m_plain->sortOrder);
     }
-}
-
-void TestBrowsingRandom::reload()
-{
-    m_model->loadActionsToModel();
-    m_plain->load(*m_host->registry());
 }
 
 void TestBrowsingRandom::step()
@@ -249,7 +232,8 @@ void TestBrowsingRandom::step()
     } else {
         for (int i = 0; i < 10; ++i)
             changeRegistry();
-        reload();
+        m_model->loadActionsToModel();
+        m_plain->load(*m_host->registry());
     }
 }
 
@@ -271,14 +255,10 @@ void TestBrowsingRandom::compareModel()
     }
 }
 
-void TestBrowsingRandom::compareProxy()
+void TestBrowsingRandom::compareProxies()
 {
     m_proxy->invalidate();
     QCOMPARE(listed(*m_proxy), m_plain->sorted());
-}
-
-void TestBrowsingRandom::compareLive()
-{
     // Whether hotkeys are customized or unsaved may change without a change of their cell.
     if (m_plain->hotkeyFilter < QvelSortFilterProxyModel::CustomizedHotkeysOnly) {
         QVector<int> rows = listed(*m_live);
@@ -318,8 +298,7 @@ void TestBrowsingRandom::equalsPlainRules()
     for (int i = 0; i < 600 && !QTest::currentTestFailed(); ++i) {
         step();
         compareModel();
-        compareLive();
-        compareProxy();
+        compareProxies();
         compareLookUps();
     }
 }

@@ -1,4 +1,5 @@
 #include "TestHost.h"
+#include "Text.h"
 
 #include <UiCustomizations/QvelCustomizeDialogHelper.h>
 
@@ -10,16 +11,6 @@ using namespace CUI::QvelCustomizeDialogHelper;
 
 namespace {
 
-const QString allCategories = QStringLiteral("All Subgroups/Categories");
-
-QStringList textsOf(const QComboBox &box)
-{
-    QStringList texts;
-    for (int index = 0; index < box.count(); ++index)
-        texts << box.itemText(index);
-    return texts;
-}
-
 /// Puts brackets around every text of the dialog.
 class DialogTranslator : public QTranslator
 {
@@ -27,9 +18,8 @@ public:
     bool isEmpty() const override { return false; }
     QString translate(const char *context, const char *source, const char *, int) const override
     {
-        return qstrcmp(context, "QvelCustomizeUiDialog") == 0
-                       ? QStringLiteral("[%1]").arg(QString::fromUtf8(source))
-                       : QString();
+        return qstrcmp(context, "QvelCustomizeUiDialog") == 0 ? s("[%1]").arg(s(source))
+                                                              : QString();
     }
 };
 
@@ -41,16 +31,15 @@ class TestCustomizeDialogHelper : public QObject
 
 private Q_SLOTS:
     void init();
-    void listsContextsByName();
-    void listsOneOfContextsThatDifferInCase();
+    void listsContexts();
     void listsCategories();
-    void listsCategoriesOfOneContext_data();
-    void listsCategoriesOfOneContext();
     void translatesAllButTheCategory();
     void worksWithoutRegistry();
 
 private:
-    void addAction(unsigned long contextId, const char *category);
+    void addActions(unsigned long contextId, const char *categories);
+    /// The texts of the box, the first of which is current.
+    QStringList texts() const;
 
     std::unique_ptr<TestHost> m_host;
     std::unique_ptr<QComboBox> m_box;
@@ -62,89 +51,63 @@ void TestCustomizeDialogHelper::init()
     m_host.reset(); // before another one is installed
     m_host = std::make_unique<TestHost>();
     m_box = std::make_unique<QComboBox>();
-    m_box->addItems({QStringLiteral("old"), QStringLiteral("older")});
+    m_box->addItems(list("old|older"));
     m_box->setCurrentIndex(1);
 }
 
-void TestCustomizeDialogHelper::addAction(unsigned long contextId, const char *category)
+void TestCustomizeDialogHelper::addActions(unsigned long contextId, const char *categories)
 {
-    m_host->registry()->addAction(++m_actionCount, QStringLiteral("a"), QStringLiteral("A"),
-                                  contextId, QString::fromUtf8(category), false);
+    for (const QString &category : s(categories).split(QLatin1Char('|')))
+        m_host->registry()->addAction(++m_actionCount, s("a"), s("A"), contextId, category, false);
 }
 
-void TestCustomizeDialogHelper::listsContextsByName()
+QStringList TestCustomizeDialogHelper::texts() const
 {
-    m_host->registry()->addActionContext(3, QStringLiteral("beta"));
-    m_host->registry()->addActionContext(4294967295, QStringLiteral("Alpha"));
-    m_host->registry()->addActionContext(0, QStringLiteral("Gamma"));
-    initializeContextList(m_box.get());
+    QStringList texts;
+    for (int index = 0; index < m_box->count(); ++index)
+        texts << m_box->itemText(index);
+    return m_box->currentIndex() == 0 ? texts : QStringList(s("another entry is current"));
+}
 
-    QCOMPARE(textsOf(*m_box), QStringList({QStringLiteral("All Groups"), QStringLiteral("Alpha"),
-                                           QStringLiteral("beta"), QStringLiteral("Gamma")}));
-    QCOMPARE(m_box->currentIndex(), 0);
+void TestCustomizeDialogHelper::listsContexts()
+{
+    for (const auto &[id, name] : {std::pair(3UL, "beta"), {4294967295UL, "Alpha"}, {0UL, "Gamma"}})
+        m_host->registry()->addActionContext(id, s(name));
+    initializeContextList(m_box.get());
+    QCOMPARE(texts(), list("All Groups|Alpha|beta|Gamma"));
     QVERIFY(!m_box->itemData(0).isValid());
     QCOMPARE(m_box->itemData(1), QVariant(quint64{4294967295}));
     QCOMPARE(m_box->itemData(1).userType(), int(QMetaType::ULongLong));
-    QCOMPARE(m_box->itemData(2), QVariant(quint64{3}));
     QCOMPARE(m_box->itemData(3), QVariant(quint64{0}));
-    QVERIFY(m_box->itemIcon(1).isNull());
-}
 
-void TestCustomizeDialogHelper::listsOneOfContextsThatDifferInCase()
-{
-    for (unsigned long id = 1; id <= 3; ++id)
-        m_host->registry()->addActionContext(id, QStringLiteral("Same"));
-    m_host->registry()->addActionContext(4, QStringLiteral("SAME"));
-    unsigned long last = 0;
-    for (const auto &entry : m_host->registry()->actionContexts())
-        last = entry.first;
+    // Of contexts that differ in letter case only, the last one of the registry.
+    m_host->registry()->addActionContext(8, s("BETA"));
+    quint64 last = 0;
+    for (const auto &[id, context] : m_host->registry()->actionContexts())
+        last = id == 3 || id == 8 ? id : last;
     initializeContextList(m_box.get());
-
-    QCOMPARE(m_box->count(), 2);
-    QCOMPARE(m_box->itemData(1), QVariant(quint64{last}));
+    QCOMPARE(m_box->count(), 4);
+    QCOMPARE(m_box->itemData(2), QVariant(last));
 }
 
 void TestCustomizeDialogHelper::listsCategories()
 {
-    m_host->registry()->addActionContext(1, QStringLiteral("One"));
-    m_host->registry()->addActionContext(2, QStringLiteral("Two"));
-    for (const char *category :
-         {"view", "Zoom", "Edit", "edit", "All Subgroups/Categories", "Edit"})
-        addAction(1, category);
-    addAction(2, "<b>Bold</b>");
-    addAction(2, "view");
-    addAction(9, "of a context that is not registered");
-    initializeCategoryList(m_box.get());
-
-    QCOMPARE(textsOf(*m_box),
-             QStringList({allCategories, QStringLiteral("<b>Bold</b>"), QStringLiteral("Edit"),
-                          QStringLiteral("edit"), QStringLiteral("view"), QStringLiteral("Zoom")}));
-    QCOMPARE(m_box->currentIndex(), 0);
-}
-
-void TestCustomizeDialogHelper::listsCategoriesOfOneContext_data()
-{
-    QTest::addColumn<uint>("contextId");
-    QTest::addColumn<QStringList>("categories");
-    QTest::newRow("some") << 1U << QStringList({QStringLiteral("A"), QStringLiteral("c")});
-    QTest::newRow("an empty one") << 2U << QStringList(QString());
-    QTest::newRow("no actions") << 3U << QStringList();
-    QTest::newRow("not registered") << 9U << QStringList();
-}
-
-void TestCustomizeDialogHelper::listsCategoriesOfOneContext()
-{
-    QFETCH(uint, contextId);
-    QFETCH(QStringList, categories);
     for (unsigned long id = 1; id <= 3; ++id)
-        m_host->registry()->addActionContext(id, QStringLiteral("Context %1").arg(id));
-    for (const char *category : {"c", "A", "c"})
-        addAction(1, category);
-    addAction(2, "");
-    addAction(9, "b");
-    updateCategoryList(m_box.get(), contextId);
-    QCOMPARE(textsOf(*m_box), QStringList(allCategories) + categories);
-    QCOMPARE(m_box->currentIndex(), 0);
+        m_host->registry()->addActionContext(id, s("Context %1").arg(id));
+    addActions(1, "view|Zoom|Edit|edit|All Subgroups/Categories|Edit");
+    addActions(2, "<b>Bold</b>|view|");
+    addActions(9, "of a context that is not registered");
+    initializeCategoryList(m_box.get());
+    QCOMPARE(texts(), list("All Subgroups/Categories||<b>Bold</b>|Edit|edit|view|Zoom"));
+    const char *expected[] = {"All Subgroups/Categories|Edit|edit|view|Zoom",
+                              "All Subgroups/Categories||<b>Bold</b>|view",
+                              "All Subgroups/Categories"};
+    for (unsigned long id = 1; id <= 3; ++id) {
+        updateCategoryList(m_box.get(), id);
+        QCOMPARE(texts(), list(expected[id - 1]));
+    }
+    updateCategoryList(m_box.get(), 9);
+    QCOMPARE(texts(), list("All Subgroups/Categories"));
 }
 
 void TestCustomizeDialogHelper::translatesAllButTheCategory()
@@ -152,15 +115,12 @@ void TestCustomizeDialogHelper::translatesAllButTheCategory()
     DialogTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
     initializeContextList(m_box.get());
-    QCOMPARE(textsOf(*m_box), QStringList(QStringLiteral("[All Groups]")));
+    QCOMPARE(texts(), list("[All Groups]"));
     initializeCategoryList(m_box.get());
-    QCOMPARE(textsOf(*m_box), QStringList(allCategories));
+    QCOMPARE(texts(), list("All Subgroups/Categories"));
     initializeHotkeyFilterList(m_box.get());
-    QCOMPARE(textsOf(*m_box), QStringList({QStringLiteral("[All Actions]"),
-                                           QStringLiteral("[Assigned Hotkeys Only]"),
-                                           QStringLiteral("[Customized Hotkeys Only]"),
-                                           QStringLiteral("[Unsaved Hotkeys Only]")}));
-    QCOMPARE(m_box->currentIndex(), 0);
+    QCOMPARE(texts(), list("[All Actions]|[Assigned Hotkeys Only]|[Customized Hotkeys Only]|"
+                           "[Unsaved Hotkeys Only]"));
 }
 
 void TestCustomizeDialogHelper::worksWithoutRegistry()
@@ -168,9 +128,9 @@ void TestCustomizeDialogHelper::worksWithoutRegistry()
     std::unique_ptr<CUI::ICuiActionManager> none;
     CUI::ICuiActionManager::set(none);
     initializeContextList(m_box.get());
-    QCOMPARE(textsOf(*m_box), QStringList(QStringLiteral("All Groups")));
+    QCOMPARE(texts(), list("All Groups"));
     updateCategoryList(m_box.get(), 1);
-    QCOMPARE(textsOf(*m_box), QStringList(allCategories));
+    QCOMPARE(texts(), list("All Subgroups/Categories"));
 }
 
 QTEST_MAIN(TestCustomizeDialogHelper)

@@ -1,4 +1,5 @@
 #include "TestHost.h"
+#include "Text.h"
 
 #include <UiCustomizations/QvelCustomizeDialogHelper.h>
 
@@ -25,14 +26,14 @@ private:
 void TestFileBrowserWithoutBus::opensTheFolder()
 {
     const TestHost host;
-    const QString path = host.write(QStringLiteral("mine.hsx"), "x");
+    const QString path = host.write(s("mine.hsx"), "x");
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(host.path({})) + "/none");
     QVERIFY(!QDBusConnection::sessionBus().isConnected());
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
+    QDesktopServices::setUrlHandler(s("file"), this, "openUrl");
 
     CUI::QvelCustomizeDialogHelper::showFileInFolder(path);
     QTRY_COMPARE(m_opened, QStringList(QFileInfo(path).path()));
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QDesktopServices::unsetUrlHandler(s("file"));
 }
 
 QTEST_MAIN(TestFileBrowserWithoutBus)

@@ -1,11 +1,11 @@
-#include "Recorder.h"
 #include "TestHost.h"
+#include "Text.h"
 
+#include <UiCustomizations/QvelMessageLog.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
 #include <QtTest>
 
-#include <algorithm>
 #include <map>
 #include <random>
 
@@ -76,18 +76,13 @@ class TestShortcutStoreRandom : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { CUI::QvelMessageLog::getInstance().setMessageLogLevel({}); }
-    void cleanup()
-    {
-        CUI::QvelMessageLog::getInstance().setMessageLogLevel(CUI::QvelMessageLog::Warning);
-    }
+    void initTestCase() { CUI::QvelMessageLog::getInstance().setMessageLogLevel({}); }
     void equalsPlainRule();
     void standsSlotsThatEdit();
 
 private:
     const QStringList m_keys =
-            QStringLiteral("A a B C D E F G H Ctrl+A ctrl+a Num+1 F5 ß ẞ ss ſ s é É")
-                    .split(QLatin1Char(' '));
+            s("A a B C D E F G H Ctrl+A ctrl+a Num+1 F5 ß ẞ ss ſ s é É").split(QLatin1Char(' '));
 };
 
 void TestShortcutStoreRandom::equalsPlainRule()
@@ -95,7 +90,7 @@ void TestShortcutStoreRandom::equalsPlainRule()
     TestHost host;
     std::vector<ActionIdentifier> ids;
     for (unsigned i = 0; i < 24; ++i) {
-        ids.push_back({1 + i % 2, QStringLiteral("action%1").arg(i)});
+        ids.push_back({1 + i % 2, s("action%1").arg(i)});
         if (i < 22) // two stay unknown
             host.registry()->addAction(ids.back(), QString::number(i), i % 3, QString(), false);
     }
@@ -130,16 +125,17 @@ void TestShortcutStoreRandom::equalsPlainRule()
             QCOMPARE(store.getActionIdFromShortcut(key, context), expected.owner(key, context));
         const auto &steps = store.currentTransformations();
         QCOMPARE(store.isUserModified(), !steps.empty());
-        QCOMPARE(store.isUserModifiedShortcut(id, key),
-                 std::any_of(steps.begin(), steps.end(), [&](const auto &step) {
-                     return step.actionId() == id && step.shortcut() == key;
-                 }));
-        QCOMPARE(store.isUserModifiedAction(id),
-                 std::any_of(steps.begin(), steps.end(),
-                             [&](const auto &step) { return step.actionId() == id; }));
+        bool isActionModified = false;
+        bool isModified = false;
+        for (const auto &step : steps) {
+            isActionModified = isActionModified || step.actionId() == id;
+            isModified = isModified || (step.actionId() == id && step.shortcut() == key);
+        }
+        QCOMPARE(store.isUserModifiedAction(id), isActionModified);
+        QCOMPARE(store.isUserModifiedShortcut(id, key), isModified);
         const auto base = expected.base.find(id);
         QCOMPARE(store.getBaseShortcutsFromActionId(id),
-                 base == expected.base.end() ? QString() : base->second.join(QStringLiteral(", ")));
+                 base == expected.base.end() ? QString() : base->second.join(s(", ")));
     }
 }
 
@@ -149,7 +145,7 @@ void TestShortcutStoreRandom::standsSlotsThatEdit()
     TestHost host;
     std::vector<ActionIdentifier> ids;
     for (unsigned i = 0; i < 6; ++i) {
-        ids.push_back({1, QStringLiteral("action%1").arg(i)});
+        ids.push_back({1, s("action%1").arg(i)});
         host.registry()->addAction(ids.back(), QString::number(i), i % 2, QString(), false);
     }
     QvelShortcutManager store;
@@ -162,34 +158,30 @@ void TestShortcutStoreRandom::standsSlotsThatEdit()
         ++depth;
         const ActionIdentifier &id = ids[below(6)];
         const QString &key = m_keys.at(int(below(8)));
-        switch (below(12)) {
-        case 0:
+        const unsigned operation = below(12);
+        if (operation == 0)
             store.clearTransforms();
-            break;
-        case 1:
+        else if (operation == 1)
             store.applyTransforms();
-            break;
-        case 2:
+        else if (operation == 2)
             store.clearShortcuts();
-            break;
-        case 3:
-            store.saveShortcutTransforms(host.path(QStringLiteral("a.hsx")));
-            break;
-        case 4:
+        else if (operation == 3)
+            store.saveShortcutTransforms(host.path(s("a.hsx")));
+        else if (operation == 4)
             store.collapseTransforms(0);
-            break;
-        default:
-            below(2) == 0 ? store.assignShortcut(id, key, QString())
-                          : store.unassignShortcut(id, key, QString());
-        }
+        else if (below(2) == 0)
+            store.assignShortcut(id, key, QString());
+        else
+            store.unassignShortcut(id, key, QString());
         --depth;
     };
-    connect(&store, &QvelShortcutManager::shortcutAssigned, this, edit);
-    connect(&store, &QvelShortcutManager::shortcutUnassigned, this, edit);
-    connect(&store, &QvelShortcutManager::shortcutTransformAdded, this, edit);
-    connect(&store, &QvelShortcutManager::shortcutTransformsCollapsed, this, edit);
-    connect(&store, &QvelShortcutManager::shortcutsModified, this, edit);
-    connect(&store, &QvelShortcutManager::shortcutsUnModified, this, edit);
+    using Store = QvelShortcutManager;
+    connect(&store, &Store::shortcutAssigned, this, edit);
+    connect(&store, &Store::shortcutUnassigned, this, edit);
+    connect(&store, &Store::shortcutTransformAdded, this, edit);
+    for (const auto signal : {&Store::shortcutTransformsCollapsed, &Store::shortcutsModified,
+                              &Store::shortcutsUnModified})
+        connect(&store, signal, this, edit);
     for (int round = 0; round < 300; ++round) {
         edit();
         PlainStore plainStore(*host.registry());

@@ -3,12 +3,9 @@
 
 #include <UiCustomizations/ICuiActionManager.h>
 #include <UiCustomizations/IPathManager.h>
-#include <UiCustomizations/QvelFileMessageLogger.h>
-#include <UiCustomizations/QvelMessageLog.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <iostream>
@@ -29,9 +26,7 @@ public:
         addAction(undo, QStringLiteral("Undo"), 1, QStringLiteral("Edit"), false);
         addAction(redo, QStringLiteral("Redo"), 1, QStringLiteral("Edit"), false);
     }
-
     bool triggerAction(const CUI::ActionIdentifier &) override { return false; }
-
     void getDefaultAccelerators(
             CUI::QvelShortcutManager *,
             std::vector<std::pair<CUI::ActionIdentifier, QString>> &accelerators) override
@@ -43,12 +38,10 @@ public:
 class Paths : public CUI::IPathManager
 {
 public:
-    explicit Paths(const QString &folder) : m_folder(folder) { }
-
-    QString getLogFilePath() const override { return m_folder + QStringLiteral("/log.txt"); }
+    QString getLogFilePath() const override { return {}; }
     QString getLegacyHotkeyDirectory() const override { return {}; }
     QString getDefaultPresetDirectory() const override { return {}; }
-    QString getUserPresetDirectory() const override { return m_folder; }
+    QString getUserPresetDirectory() const override { return {}; }
     QString getCurrentConfigurationFile(CUI::ConfigType) const override { return m_current; }
     QString getDefaultConfigurationFile(CUI::ConfigType) const override { return {}; }
     void setCurrentConfigurationFile(CUI::ConfigType, const QString &path) override
@@ -58,7 +51,6 @@ public:
     QStringList getBaseHotkeyFiles() const override { return {}; }
 
 private:
-    QString m_folder;
     QString m_current;
 };
 
@@ -76,16 +68,13 @@ void editAndSave(const QString &set)
 {
     CUI::QvelShortcutManager store;
     store.loadCurrentShortcutConfiguration();
-    expect(store.getShortcutsFromActionId(undo) == QLatin1String("Ctrl+Z"),
-           "the registry's default accelerator is there");
-
     int assigned = 0;
     QObject::connect(&store, &CUI::QvelShortcutManager::shortcutAssigned, &store,
                      [&assigned] { ++assigned; });
     store.assignShortcut(redo, QStringLiteral("Ctrl+Z"), QStringLiteral("Redo"));
-    expect(assigned == 1, "an edit is announced once");
-    expect(store.getActionIdFromShortcut(QStringLiteral("ctrl+z"), 1) == redo,
-           "an edit moves a hotkey within its context");
+    expect(assigned == 1, "an edit is announced");
+    expect(store.getShortcutsFromActionId(undo).isEmpty(),
+           "an edit takes the registry's default accelerator from another action");
     expect(store.saveShortcutTransforms(set), "a set can be saved");
 }
 
@@ -93,30 +82,12 @@ void loadAgain(const QString &set)
 {
     expect(CUI::QvelShortcutManager::validateShortcutsTransforms(set),
            "a saved set follows the schema beside the executable");
-
     CUI::QvelShortcutManager store;
     store.loadShortcutConfiguration(set);
     expect(store.getShortcutsFromActionId(redo) == QLatin1String("Ctrl+Z"),
            "a loaded set brings the edit back");
-    expect(store.getShortcutsFromActionId(undo).isEmpty(), "and what it took");
     expect(CUI::IPathManager::get()->getCurrentConfigurationFile(CUI::ConfigType::HotkeySet) == set,
            "the host is told which set is in use");
-}
-
-void refuseDamage(const QString &path)
-{
-    QFile file(path);
-    expect(file.open(QIODevice::WriteOnly) && file.write("<Nothing/>") > 0, "a file is written");
-    file.close();
-
-    int lines = 0;
-    const auto counting =
-            QObject::connect(&CUI::QvelMessageLog::getInstance(),
-                             &CUI::QvelMessageLog::messageLogged, [&lines] { ++lines; });
-    CUI::QvelShortcutManager store;
-    expect(!store.loadShortcutTransforms(path), "a file of another kind is refused");
-    expect(lines > 0, "and the log says so");
-    QObject::disconnect(counting);
 }
 
 } // namespace
@@ -124,27 +95,21 @@ void refuseDamage(const QString &path)
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
-    QTemporaryDir folder;
+    const QTemporaryDir folder;
 
     std::unique_ptr<CUI::ICuiActionManager> registry = std::make_unique<Registry>();
     registry->registerActions();
     CUI::ICuiActionManager::set(registry);
-    std::unique_ptr<CUI::IPathManager> paths = std::make_unique<Paths>(folder.path());
+    std::unique_ptr<CUI::IPathManager> paths = std::make_unique<Paths>();
     CUI::IPathManager::set(paths);
-
-    CUI::QvelFileMessageLogger logger;
-    QObject::connect(&CUI::QvelMessageLog::getInstance(), &CUI::QvelMessageLog::messageLogged,
-                     &logger, &CUI::QvelFileMessageLogger::logMessage);
 
     editAndSave(folder.filePath(QStringLiteral("mine.hsx")));
     loadAgain(folder.filePath(QStringLiteral("mine.hsx")));
-    refuseDamage(folder.filePath(QStringLiteral("damaged.hsx")));
-    expect(QFile::exists(folder.filePath(QStringLiteral("log.txt"))), "the log is on disk");
 
-    std::unique_ptr<CUI::ICuiActionManager> noRegistry;
-    CUI::ICuiActionManager::set(noRegistry);
-    std::unique_ptr<CUI::IPathManager> noPaths;
-    CUI::IPathManager::set(noPaths);
+    registry.reset();
+    CUI::ICuiActionManager::set(registry);
+    paths.reset();
+    CUI::IPathManager::set(paths);
     return unmet;
 }
 

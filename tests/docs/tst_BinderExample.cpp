@@ -1,4 +1,5 @@
 #include "TestHost.h"
+#include "Text.h"
 
 #define main binderMain
 #include "../../examples/binder/main.cpp"
@@ -45,9 +46,11 @@ private Q_SLOTS:
     void initTestCase();
     void firstStart();
     void laterStart();
+    void readmeShowsTheExamples();
 
 private:
-    int run();
+    /// Runs the example, and lets a user act in its text once its window is active.
+    void run(const std::function<void(QPlainTextEdit *)> &act);
 
     QTemporaryDir m_home;
 };
@@ -55,62 +58,71 @@ private:
 void TestBinderExample::initTestCase()
 {
     qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit());
-    QCoreApplication::setApplicationName(QStringLiteral("notes"));
+    QCoreApplication::setApplicationName(s("notes"));
 }
 
-int TestBinderExample::run()
+void TestBinderExample::run(const std::function<void(QPlainTextEdit *)> &act)
 {
+    bool reached = false;
+    user = [&] {
+        auto *window = topLevel<QMainWindow>();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        act(window->findChild<QPlainTextEdit *>());
+        reached = !QTest::currentTestFailed();
+    };
     int argc = 1;
     char program[] = "notes";
     char *argv[] = {program, nullptr};
-    return binderMain(argc, argv);
+    QCOMPARE(binderMain(argc, argv), 0);
+    QVERIFY(reached);
 }
 
 void TestBinderExample::firstStart()
 {
-    bool reached = false;
-    user = [&reached] {
-        auto *window = topLevel<QMainWindow>();
-        window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        auto *text = window->findChild<QPlainTextEdit *>();
-        QTest::keyClicks(text, QStringLiteral("abc"));
-        QCOMPARE(text->toPlainText(), QStringLiteral("abc"));
+    run([](QPlainTextEdit *text) {
+        QTest::keyClicks(text, s("abc"));
+        QCOMPARE(text->toPlainText(), s("abc"));
         QTest::keyClick(text, Qt::Key_L, Qt::ControlModifier);
         QCOMPARE(text->toPlainText(), QString());
         auto *editor = topLevel<CUI::QvelShortcutsWidget>();
         QVERIFY(!editor->isVisible());
         QTest::keyClick(text, Qt::Key_K, Qt::ControlModifier);
         QVERIFY(editor->isVisible());
-        reached = true;
-    };
-    QCOMPARE(run(), 0);
-    QVERIFY(reached);
-    QVERIFY(QFileInfo(m_home.filePath(QStringLiteral("notes/Mine.hsx"))).isFile());
+    });
+    QVERIFY(QFileInfo(m_home.filePath(s("notes/Mine.hsx"))).isFile());
 }
 
 void TestBinderExample::laterStart()
 {
-    QFile set(m_home.filePath(QStringLiteral("notes/Mine.hsx")));
+    QFile set(m_home.filePath(s("notes/Mine.hsx")));
     QVERIFY(set.open(QIODevice::WriteOnly));
-    set.write(
-            "<VelHotkeyTransformations Locked=\"false\">"
-            "<Assign_Hotkey Shortcut=\"Ctrl+L\" Description=\"Underline\" Id=\"1-editUnderline\"/>"
-            "</VelHotkeyTransformations>");
+    set.write("<VelHotkeyTransformations>"
+              "<Assign_Hotkey Shortcut='Ctrl+L' Description='Underline' Id='1-editUnderline'/>"
+              "</VelHotkeyTransformations>");
     set.close();
-    bool reached = false;
-    user = [&reached] {
-        auto *window = topLevel<QMainWindow>();
-        window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        auto *text = window->findChild<QPlainTextEdit *>();
+    run([](QPlainTextEdit *text) {
         QTest::keyClick(text, Qt::Key_L, Qt::ControlModifier);
-        QCOMPARE(text->toPlainText(), QStringLiteral("--------"));
-        reached = true;
-    };
-    QCOMPARE(run(), 0);
-    QVERIFY(reached);
+        QCOMPARE(text->toPlainText(), s("--------"));
+    });
     QVERIFY(TestHost::read(set.fileName()).contains("1-editUnderline"));
+}
+
+void TestBinderExample::readmeShowsTheExamples()
+{
+    const QByteArray readme = TestHost::read(s(CUI_SOURCE_DIR "/README.md"));
+    const QByteArray fence("```cpp\n");
+    QCOMPARE(readme.count(fence), 2);
+    int end = 0;
+    for (const char *name : {"binder", "minimal"}) {
+        const QByteArray example =
+                TestHost::read(s(CUI_SOURCE_DIR "/examples/%1/main.cpp").arg(s(name)));
+        const int start = readme.indexOf(fence, end) + fence.size();
+        end = readme.indexOf("```", start);
+        const QByteArray code = readme.mid(start, end - start);
+        QVERIFY(code.startsWith("int main("));
+        QVERIFY2(example.endsWith(code), name);
+    }
 }
 
 QTEST_APPLESS_MAIN(TestBinderExample)

@@ -1,5 +1,6 @@
 #include "HostActionRegistry.h"
 #include "SampleHost.h"
+#include "Text.h"
 
 #include <UiCustomizations/QvelMessageLog.h>
 #include <UiCustomizations/QvelShortcutManager.h>
@@ -22,8 +23,17 @@ const QByteArray catalogue = R"({"defaultSet": "Shipped.hsx",
               {"table": 1, "id": "cut", "name": "Cut", "context": 1, "category": "Edit",
                "accelerators": ["Ctrl+X"]}]})";
 
-const QByteArray emptySet = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                            "<VelHotkeyTransformations Locked=\"false\"/>\n";
+const QByteArray emptySet = "<VelHotkeyTransformations/>\n";
+
+QString currentSet()
+{
+    return CUI::IPathManager::get()->getCurrentConfigurationFile(ConfigType::HotkeySet);
+}
+
+void setCurrentSet(const QString &file)
+{
+    CUI::IPathManager::get()->setCurrentConfigurationFile(ConfigType::HotkeySet, file);
+}
 
 } // namespace
 
@@ -33,13 +43,11 @@ class SampleHostTest : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup();
+    void cleanup() { CUI::QvelMessageLog::getInstance().disconnect(this); }
     void installsWhatTheShippedDirectoryHolds();
     void leavesAnotherHostInstalled();
-    void saysWhyADirectoryIsOfNoUse_data();
-    void saysWhyADirectoryIsOfNoUse();
+    void installsNothingWithoutItsDefaultSet();
     void startsWithTheDefaultSetAndLeavesNoTrace();
-    void theCurrentSetSurvivesARestart_data();
     void theCurrentSetSurvivesARestart();
     void aSetThatIsGoneGivesWayUntilItIsBack();
     void inMemoryTheRecordStaysAsItWas();
@@ -47,23 +55,15 @@ private Q_SLOTS:
     void warnsOfARecordThatCannotBeWritten();
 
 private:
-    QString path(const QString &name) const { return m_folder->filePath(name); }
-    QString write(const QString &name, const QByteArray &contents) const;
+    QString path(const char *name) const { return m_folder->filePath(s(name)); }
+    QString write(const char *name, const QByteArray &contents) const;
     /// A host of the temporary directory; its load() has worked.
-    std::unique_ptr<SampleHost> start(
-            Host::HostPathManager::Record record = Host::HostPathManager::Record::OnDisk) const;
-    QString currentSet() const
-    {
-        return CUI::IPathManager::get()->getCurrentConfigurationFile(ConfigType::HotkeySet);
-    }
-    void setCurrentSet(const QString &file) const
-    {
-        CUI::IPathManager::get()->setCurrentConfigurationFile(ConfigType::HotkeySet, file);
-    }
+    std::unique_ptr<SampleHost> start() const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QStringList m_logged;
     QString m_defaultSet;
+    QString m_mine;
 };
 
 void SampleHostTest::init()
@@ -72,16 +72,12 @@ void SampleHostTest::init()
     m_logged.clear();
     connect(&CUI::QvelMessageLog::getInstance(), &CUI::QvelMessageLog::messageLogged, this,
             [this](const QString &line) { m_logged << line; });
-    write(QStringLiteral("host/host.json"), catalogue);
-    m_defaultSet = write(QStringLiteral("host/presets/Shipped.hsx"), emptySet);
+    write("host/host.json", catalogue);
+    m_defaultSet = write("host/presets/Shipped.hsx", emptySet);
+    m_mine = write("elsewhere/M\u00fcller's set.hsx", emptySet);
 }
 
-void SampleHostTest::cleanup()
-{
-    CUI::QvelMessageLog::getInstance().disconnect(this);
-}
-
-QString SampleHostTest::write(const QString &name, const QByteArray &contents) const
+QString SampleHostTest::write(const char *name, const QByteArray &contents) const
 {
     QDir().mkpath(QFileInfo(path(name)).path());
     QFile file(path(name));
@@ -90,10 +86,9 @@ QString SampleHostTest::write(const QString &name, const QByteArray &contents) c
     return file.fileName();
 }
 
-std::unique_ptr<SampleHost> SampleHostTest::start(Host::HostPathManager::Record record) const
+std::unique_ptr<SampleHost> SampleHostTest::start() const
 {
-    auto host = std::make_unique<SampleHost>(path(QStringLiteral("host")),
-                                             path(QStringLiteral("user")), record);
+    auto host = std::make_unique<SampleHost>(path("host"), path("user"));
     if (!host->load())
         qFatal("%s", qPrintable(host->errorText()));
     return host;
@@ -103,25 +98,20 @@ void SampleHostTest::installsWhatTheShippedDirectoryHolds()
 {
     const QDir directory(SampleHost::shippedDirectory());
     {
-        SampleHost host(directory.path() + QLatin1Char('/'), path(QStringLiteral("user")));
+        SampleHost host(directory.path() + QLatin1Char('/'), path("user"));
         QVERIFY2(host.load(), qPrintable(host.errorText()));
         auto *registry = CUI::ICuiActionManager::get();
         const auto *paths = CUI::IPathManager::get();
         QCOMPARE(registry->actions().size(), host.catalogue().actions.size());
         QCOMPARE(registry->actionContexts().size(), std::size_t(16));
-        const CUI::ActionIdentifier undo = {1, QStringLiteral("undo")};
-        QCOMPARE(registry->getAction(undo)->name(), QStringLiteral("Undo"));
         QCOMPARE(paths->getBaseHotkeyFiles(),
-                 QStringList({directory.filePath(QStringLiteral("base/10-velstudio.hsxb")),
-                              directory.filePath(QStringLiteral("base/20-layout-extras.hsx"))}));
-        QCOMPARE(currentSet(),
-                 directory.filePath(QStringLiteral("presets/Velstudio Default Keyset.hsx")));
-        QVERIFY(QFile::exists(paths->getLegacyHotkeyDirectory()
-                              + QStringLiteral("/LegacyDefaultUI-2019.kbdx")));
+                 QStringList({directory.filePath(s("base/10-velstudio.hsxb")),
+                              directory.filePath(s("base/20-layout-extras.hsx"))}));
+        QCOMPARE(currentSet(), directory.filePath(s("presets/Velstudio Default Keyset.hsx")));
 
         QSignalSpy triggered(host.registry(), &Host::HostActionRegistry::triggered);
-        QVERIFY(registry->triggerAction(undo));
-        QVERIFY(!registry->triggerAction({9, QStringLiteral("undo")}));
+        QVERIFY(registry->triggerAction({1, s("undo")}));
+        QVERIFY(!registry->triggerAction({9, s("undo")}));
         QCOMPARE(triggered.count(), 1);
     }
     QVERIFY(CUI::ICuiActionManager::get() == nullptr);
@@ -141,42 +131,16 @@ void SampleHostTest::leavesAnotherHostInstalled()
     QStringList inOrder;
     for (const auto &[identifier, hotkey] : accelerators)
         inOrder << identifier.toString() + QLatin1Char(' ') + hotkey;
-    QCOMPARE(inOrder,
-             QStringList({QStringLiteral("2-undo Ctrl+Z"), QStringLiteral("2-undo Alt+Backspace"),
-                          QStringLiteral("1-cut Ctrl+X")}));
+    QCOMPARE(inOrder, list("2-undo Ctrl+Z|2-undo Alt+Backspace|1-cut Ctrl+X"));
 }
 
-void SampleHostTest::saysWhyADirectoryIsOfNoUse_data()
+void SampleHostTest::installsNothingWithoutItsDefaultSet()
 {
-    QTest::addColumn<QString>("removed");
-    QTest::addColumn<QByteArray>("contents");
-    QTest::addColumn<QString>("error");
-
-    QTest::newRow("no directory") << QStringLiteral("host") << QByteArray()
-                                  << QStringLiteral("/host: is not a directory");
-    QTest::newRow("no catalogue") << QStringLiteral("host/host.json") << QByteArray()
-                                  << QStringLiteral("/host/host.json: cannot be opened: ");
-    QTest::newRow("malformed catalogue")
-            << QStringLiteral("host/host.json") << QByteArray("{\n\"contexts\" 2}")
-            << QStringLiteral("/host/host.json:2:13: missing name separator");
-    QTest::newRow("no default set")
-            << QStringLiteral("host/presets/Shipped.hsx") << QByteArray()
-            << QStringLiteral("/host/host.json: defaultSet: there is no file ");
-}
-
-void SampleHostTest::saysWhyADirectoryIsOfNoUse()
-{
-    QFETCH(QString, removed);
-    QFETCH(QByteArray, contents);
-    QFETCH(QString, error);
-
-    const QString victim = path(removed);
-    QVERIFY(QFileInfo(victim).isDir() ? QDir(victim).removeRecursively() : QFile::remove(victim));
-    if (!contents.isEmpty())
-        write(removed, contents);
-    SampleHost host(path(QStringLiteral("host")), path(QStringLiteral("user")));
+    QVERIFY(QFile::remove(m_defaultSet));
+    SampleHost host(path("host"), path("user"));
     QVERIFY(!host.load());
-    QVERIFY2(host.errorText().startsWith(m_folder->path() + error), qPrintable(host.errorText()));
+    QCOMPARE(host.errorText(),
+             s("%1: defaultSet: there is no file %2").arg(path("host/host.json"), m_defaultSet));
     QVERIFY(CUI::ICuiActionManager::get() == nullptr);
     QVERIFY(CUI::IPathManager::get() == nullptr);
 }
@@ -184,84 +148,66 @@ void SampleHostTest::saysWhyADirectoryIsOfNoUse()
 void SampleHostTest::startsWithTheDefaultSetAndLeavesNoTrace()
 {
     const auto host = start();
-    QCOMPARE(currentSet(), m_defaultSet);
     CUI::QvelShortcutManager store;
     store.loadCurrentShortcutConfiguration();
-    QCOMPARE(store.getShortcutsFromActionId({1, QStringLiteral("cut")}), QStringLiteral("Ctrl+X"));
+    QCOMPARE(store.getShortcutsFromActionId({1, s("cut")}), s("Ctrl+X"));
     QCOMPARE(currentSet(), m_defaultSet);
-    QVERIFY(!QFile::exists(path(QStringLiteral("user"))));
-    QVERIFY(host->paths()->createUserDirectory());
-    QVERIFY(QFileInfo(path(QStringLiteral("user"))).isDir());
-}
-
-void SampleHostTest::theCurrentSetSurvivesARestart_data()
-{
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("a file") << QStringLiteral("elsewhere/M\u00fcller's set.hsx");
-    QTest::newRow("none") << QString();
+    QVERIFY(!QFile::exists(path("user")));
 }
 
 void SampleHostTest::theCurrentSetSurvivesARestart()
 {
-    QFETCH(QString, name);
-
-    const QString file = name.isEmpty() ? QString() : write(name, emptySet);
     auto host = start();
-    // The working directory of the next start may be another one.
-    setCurrentSet(file.isEmpty() ? file : QDir::current().relativeFilePath(file));
-    QCOMPARE(currentSet(), file);
-    host = start();
-    QCOMPARE(currentSet(), file);
+    for (const QString &file : {m_mine, QString()}) {
+        // The working directory of the next start may be another one.
+        setCurrentSet(file.isEmpty() ? file : QDir::current().relativeFilePath(file));
+        QCOMPARE(currentSet(), file);
+        host = start();
+        QCOMPARE(currentSet(), file);
+    }
     QVERIFY(m_logged.isEmpty());
 }
 
 void SampleHostTest::aSetThatIsGoneGivesWayUntilItIsBack()
 {
-    const QString file = write(QStringLiteral("mine.hsx"), emptySet);
     auto host = start();
-    setCurrentSet(file);
-    QVERIFY(QFile::remove(file));
+    setCurrentSet(m_mine);
+    QVERIFY(QFile::rename(m_mine, path("away")));
     host = start();
     QCOMPARE(currentSet(), m_defaultSet);
     CUI::QvelShortcutManager().loadCurrentShortcutConfiguration();
-    write(QStringLiteral("mine.hsx"), emptySet);
+    QVERIFY(QFile::rename(path("away"), m_mine));
     host = start();
-    QCOMPARE(currentSet(), file);
+    QCOMPARE(currentSet(), m_mine);
 }
 
 void SampleHostTest::inMemoryTheRecordStaysAsItWas()
 {
-    const QString file = write(QStringLiteral("mine.hsx"), emptySet);
-    auto host = start(Host::HostPathManager::Record::InMemory);
-    setCurrentSet(file);
-    QCOMPARE(currentSet(), file);
-    QVERIFY(!QFile::exists(path(QStringLiteral("user"))));
-    host = start();
-    QCOMPARE(currentSet(), m_defaultSet);
+    SampleHost host(path("host"), path("user"), Host::HostPathManager::Record::InMemory);
+    QVERIFY(host.load());
+    setCurrentSet(m_mine);
+    QCOMPARE(currentSet(), m_mine);
+    QVERIFY(!QFile::exists(path("user")));
 }
 
 void SampleHostTest::warnsOfARecordThatCannotBeRead()
 {
-    write(QStringLiteral("user/current.json"), "{\"hotkeySet\": \"/x");
+    const QString record = write("user/current.json", "{\"hotkeySet\": \"/x");
     const auto host = start();
     QCOMPARE(currentSet(), m_defaultSet);
     QCOMPARE(m_logged.size(), 1);
-    QVERIFY2(m_logged.constFirst().contains(path(QStringLiteral("user/current.json"))),
-             qPrintable(m_logged.constFirst()));
+    QVERIFY2(m_logged.constFirst().contains(record), qPrintable(m_logged.constFirst()));
 }
 
 void SampleHostTest::warnsOfARecordThatCannotBeWritten()
 {
-    // Not even root makes a directory below a file.
-    write(QStringLiteral("user"), "a file");
-    const QString file = write(QStringLiteral("mine.hsx"), emptySet);
+    const QString user = write("user", "a file"); // not even root makes a directory below it
     const auto host = start();
-    setCurrentSet(file);
-    QCOMPARE(currentSet(), file);
+    setCurrentSet(m_mine);
+    QCOMPARE(currentSet(), m_mine);
     QCOMPARE(m_logged.size(), 1);
-    QVERIFY2(m_logged.constFirst().startsWith(QLatin1String("Warning: The current set is not "))
-                     && m_logged.constFirst().contains(path(QStringLiteral("user"))),
+    QVERIFY2(m_logged.constFirst().startsWith(s("Warning: The current set is not recorded: "))
+                     && m_logged.constFirst().contains(user),
              qPrintable(m_logged.constFirst()));
     QVERIFY(!host->paths()->createUserDirectory());
 }

@@ -1,6 +1,6 @@
 #include "IncludeWalk.h"
 
-#include "SourceText.h"
+#include "Text.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -13,7 +13,57 @@ namespace CUI {
 
 namespace {
 
-const QString libraryPrefix = QStringLiteral("UiCustomizations/");
+const QString libraryPrefix = s("UiCustomizations/");
+
+/// One preprocessor directive, continuation lines joined, comments gone.
+struct Directive {
+    int line = 0;
+    /// From the character after '#', trimmed.
+    QString text;
+};
+
+/// A source without its comments and raw strings, keeping every line break, so that line numbers
+/// stay true.
+QString stripped(const QString &source)
+{
+    // Comments and raw strings are the first group. The other literals are there to be stepped
+    // over; a quote after a digit separates digits, and an R after a letter ends a name.
+    static const QRegularExpression literal(
+            QStringLiteral(R"re((//[^\n]*|/\*.*?(?:\*/|\z)|(?<!\w)R"([^(]*)\(.*?(?:\)\2"|\z)))re"
+                           R"re(|"(?:\\.|[^"\\\n])*+"?|(?<!\w)'(?:\\.|[^'\\\n])*+'?)re"),
+            QRegularExpression::DotMatchesEverythingOption);
+    QString result;
+    int end = 0;
+    for (auto matches = literal.globalMatch(source); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        result += source.midRef(end, match.capturedStart() - end);
+        const QString hidden = match.captured(1);
+        result += hidden.isEmpty()
+                          ? match.captured()
+                          : QLatin1Char(' ')
+                                    + QString(hidden.count(QLatin1Char('\n')), QLatin1Char('\n'));
+        end = match.capturedEnd();
+    }
+    return result + source.midRef(end);
+}
+
+QVector<Directive> directivesOf(const QString &source)
+{
+    const QStringList lines = stripped(source).split(QLatin1Char('\n'));
+    QVector<Directive> directives;
+    for (int i = 0; i < lines.size(); ++i) {
+        QString text = lines.at(i).trimmed();
+        if (!text.startsWith(QLatin1Char('#')))
+            continue;
+        const int line = i + 1;
+        while (text.endsWith(QLatin1Char('\\')) && i + 1 < lines.size()) {
+            text.chop(1);
+            text += lines.at(++i).trimmed();
+        }
+        directives.append({line, text.mid(1).trimmed()});
+    }
+    return directives;
+}
 
 /// An include line of one walked file that leads to another walked file.
 struct Arrow {
@@ -36,7 +86,7 @@ public:
     {
         for (const QString &file : qAsConst(m_result.files)) {
             if (layerOf(file) == 0)
-                report(file, 0, QStringLiteral("has no place in the table of layers"));
+                report(file, 0, s("has no place in the table of layers"));
             for (const Directive &directive : directivesOf(read(file)))
                 check(file, directive);
         }
@@ -48,8 +98,7 @@ public:
 private:
     void collect(const QString &folder)
     {
-        QDirIterator files(m_root.filePath(folder),
-                           {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files,
+        QDirIterator files(m_root.filePath(folder), {s("*.h"), s("*.cpp")}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString file = m_root.relativeFilePath(files.next());
@@ -62,7 +111,7 @@ private:
     {
         QFile device(m_root.filePath(file));
         if (!device.open(QIODevice::ReadOnly))
-            report(file, 0, QStringLiteral("cannot be read"));
+            report(file, 0, s("cannot be read"));
         return QString::fromUtf8(device.readAll());
     }
 
@@ -79,12 +128,11 @@ private:
 
     void check(const QString &file, const Directive &directive)
     {
-        static const QRegularExpression include(
-                QStringLiteral("^include\\s*(?:\"([^\"]+)\"|<([^>]+)>)"));
+        static const QRegularExpression include(s("^include\\s*(?:\"([^\"]+)\"|<([^>]+)>)"));
         static const QRegularExpression platform(
-                QStringLiteral("^(?:if|ifdef|ifndef|elif)\\b.*?\\b("
-                               "Q_OS_\\w+|_?WIN(?:32|64)|_WIN(?:32|64)|_MSC_VER|__MINGW\\w+"
-                               "|__linux(?:__)?|__unix(?:__)?|__APPLE__|__ANDROID__)\\b"));
+                s("^(?:if|ifdef|ifndef|elif)\\b.*?\\b("
+                  "Q_OS_\\w+|_?WIN(?:32|64)|_WIN(?:32|64)|_MSC_VER|__MINGW\\w+"
+                  "|__linux(?:__)?|__unix(?:__)?|__APPLE__|__ANDROID__)\\b"));
 
         const QRegularExpressionMatch included = include.match(directive.text);
         if (!included.captured(1).isEmpty())
@@ -95,8 +143,7 @@ private:
         const QRegularExpressionMatch asked = platform.match(directive.text);
         if (asked.hasMatch() && !file.startsWith(m_rules.platformFolder)) {
             report(file, directive.line,
-                   QStringLiteral("asks for %1 outside %2")
-                           .arg(asked.captured(1), m_rules.platformFolder));
+                   s("asks for %1 outside %2").arg(asked.captured(1), m_rules.platformFolder));
         }
     }
 
@@ -106,9 +153,9 @@ private:
         const bool isHost = layerOf(file) == m_rules.hostLayer;
         if (target.isEmpty()) {
             if (isHost || !m_rules.outsideHeaders.contains(name))
-                report(file, line, QStringLiteral("includes \"%1\", which is not here").arg(name));
+                report(file, line, s("includes \"%1\", which is not here").arg(name));
         } else if (isHost && layerOf(target) != m_rules.hostLayer) {
-            report(file, line, QStringLiteral("includes %1 past the public headers").arg(target));
+            report(file, line, s("includes %1 past the public headers").arg(target));
         } else {
             checkArrow(file, line, target);
         }
@@ -118,24 +165,23 @@ private:
     {
         // Qt's headers carry its Q; those of the standard library have no extension.
         static const QRegularExpression qtOrStandard(
-                QStringLiteral("^(?:Qt?[A-Z]\\w*(?:/\\w+(?:\\.h)?)?|[a-z_]+)$"));
+                s("^(?:Qt?[A-Z]\\w*(?:/\\w+(?:\\.h)?)?|[a-z_]+)$"));
 
         const int layer = layerOf(file);
         if (name.startsWith(libraryPrefix)) {
             const QString target = resolve(file, name.mid(libraryPrefix.size()));
             if (target.isEmpty())
-                report(file, line, QStringLiteral("includes <%1>, which is not here").arg(name));
+                report(file, line, s("includes <%1>, which is not here").arg(name));
             else
                 checkArrow(file, line, target);
         } else if (layer < m_rules.firstWidgetLayer && isWidgetHeader(name)) {
             report(file, line,
-                   QStringLiteral("includes the widget header <%1> in layer %2")
+                   s("includes the widget header <%1> in layer %2")
                            .arg(name, QString::number(layer)));
         } else if (layer == m_rules.hostLayer && !m_rules.outsideHeaders.contains(name)
                    && !qtOrStandard.match(name).hasMatch()) {
             report(file, line,
-                   QStringLiteral("includes <%1>, which is neither public, Qt nor standard")
-                           .arg(name));
+                   s("includes <%1>, which is neither public, Qt nor standard").arg(name));
         }
     }
 
@@ -152,7 +198,7 @@ private:
         const int to = layerOf(target);
         if (from != 0 && to > from) {
             report(file, line,
-                   QStringLiteral("layer %1 includes %2 of layer %3")
+                   s("layer %1 includes %2 of layer %3")
                            .arg(QString::number(from), target, QString::number(to)));
         }
     }
@@ -174,8 +220,7 @@ private:
             const int start = m_path.indexOf(arrow.target);
             if (start >= 0) {
                 const QStringList circle = m_path.mid(start) << arrow.target;
-                report(file, arrow.line,
-                       QStringLiteral("closes the circle ") + circle.join(QStringLiteral(" > ")));
+                report(file, arrow.line, s("closes the circle ") + circle.join(s(" > ")));
             } else {
                 searchCircle(arrow.target);
             }
@@ -186,8 +231,7 @@ private:
 
     void report(const QString &file, int line, const QString &what)
     {
-        m_result.findings.append(
-                QStringLiteral("%1:%2: %3").arg(file, QString::number(line), what));
+        m_result.findings.append(s("%1:%2: %3").arg(file, QString::number(line), what));
     }
 
     QDir m_root;

@@ -8,6 +8,7 @@
 #include "RenderView.h"
 #include "StudioRows.h"
 #include "StudioSession.h"
+#include "Text.h"
 #include "Timeline.h"
 #include "UvView.h"
 #include "Viewport.h"
@@ -27,11 +28,6 @@ using CUI::ActionIdentifier;
 using namespace Studio;
 
 namespace {
-
-QString s(const char *text)
-{
-    return QString::fromUtf8(text);
-}
 
 /// What is to be seen, without the line that names the action, and what has the keyboard.
 QByteArray digest(MainWindow &window)
@@ -56,6 +52,13 @@ QByteArray digest(MainWindow &window)
     return hash.result();
 }
 
+/// What the window system sends while a key is held.
+void sendRepeated(QWidget *widget, QEvent::Type type, Qt::Key key)
+{
+    QKeyEvent event(type, key, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
 } // namespace
 
 class StudioTest : public QObject
@@ -65,11 +68,10 @@ class StudioTest : public QObject
 private Q_SLOTS:
     void initTestCase() { QApplication::setCursorFlashTime(0); }
     void init() { start(Host::SampleHost::shippedDirectory()); }
-    void cleanup();
+    void cleanup() { m_session.reset(); }
 
     void everyActionDoesSomething_data();
     void everyActionDoesSomething();
-    void performsManyActions();
     void momentaryActionEndsWithItsKey();
     void momentaryActionEndsWithTheFocus();
     void sameKeyInTwoDocks();
@@ -85,7 +87,10 @@ private:
     void start(const QString &host);
     MainWindow &window() const { return m_session->window(); }
     QWidget *view(const char *name) const;
-    void press(QWidget *widget, const char *id);
+    void press(QWidget *widget, const QString &id);
+    const Scene &scene() const { return window().document().scene(); }
+    ViewSettings settings() const { return window().view().get(); }
+    QString status() const { return window().statusBar()->currentMessage(); }
 
     std::unique_ptr<QTemporaryDir> m_user;
     std::unique_ptr<StudioSession> m_session;
@@ -102,12 +107,6 @@ void StudioTest::start(const QString &host)
     window().show();
     QApplication::setActiveWindow(&window());
     QVERIFY(QTest::qWaitForWindowActive(&window()));
-}
-
-void StudioTest::cleanup()
-{
-    m_session.reset();
-    m_user.reset();
 }
 
 /// The view of that object name, in front and with the keyboard focus.
@@ -128,12 +127,12 @@ QWidget *StudioTest::view(const char *name) const
 }
 
 /// Presses the first hotkey that the store has for the action.
-void StudioTest::press(QWidget *widget, const char *id)
+void StudioTest::press(QWidget *widget, const QString &id)
 {
-    const ActionIdentifier action = ActionIdentifier::fromString(s(id));
+    const ActionIdentifier action = ActionIdentifier::fromString(id);
     const auto hotkeys = m_session->store().getShortcuts().find(action);
     if (hotkeys == m_session->store().getShortcuts().end())
-        qFatal("%s has no hotkey", id);
+        qFatal("%s has no hotkey", qPrintable(id));
     const int combination = QKeySequence(hotkeys->second.first())[0];
     const int modifiers = combination & static_cast<int>(Qt::KeyboardModifierMask);
     QTest::keyClick(widget, static_cast<Qt::Key>(combination & ~modifiers),
@@ -145,7 +144,7 @@ void StudioTest::everyActionDoesSomething_data()
     QTest::addColumn<int>("row");
     const std::vector<StudioRow> &rows = studioRows();
     for (std::size_t i = 0; i < rows.size(); ++i)
-        QTest::newRow(rows[i].id) << static_cast<int>(i);
+        QTest::newRow(qPrintable(rows[i].id)) << static_cast<int>(i);
 }
 
 void StudioTest::everyActionDoesSomething()
@@ -159,14 +158,8 @@ void StudioTest::everyActionDoesSomething()
     QCOMPARE(digest(window()), before); // what changes by itself would prove nothing
     press(widget, tested.id);
     QVERIFY(digest(window()) != before);
-    const ActionIdentifier action = ActionIdentifier::fromString(s(tested.id));
-    const CUI::VelAction *known = CUI::ICuiActionManager::get()->getAction(action);
-    QCOMPARE(window().statusBar()->currentMessage(), known->name());
-}
-
-void StudioTest::performsManyActions()
-{
-    QVERIFY(studioRows().size() >= 60);
+    const ActionIdentifier action = ActionIdentifier::fromString(tested.id);
+    QCOMPARE(status(), CUI::ICuiActionManager::get()->getAction(action)->name());
 }
 
 void StudioTest::momentaryActionEndsWithItsKey()
@@ -174,16 +167,14 @@ void StudioTest::momentaryActionEndsWithItsKey()
     QWidget *viewport = view("viewport");
     const QByteArray before = digest(window());
     QTest::keyPress(viewport, Qt::Key_QuoteLeft); // hides the overlays while it is held
-    QVERIFY(window().view().get().heldHideOverlays);
+    QVERIFY(settings().heldHideOverlays);
     QVERIFY(digest(window()) != before);
-    QKeyEvent repeatedRelease(QEvent::KeyRelease, Qt::Key_QuoteLeft, Qt::NoModifier, s("`"), true);
-    QCoreApplication::sendEvent(viewport, &repeatedRelease);
-    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_QuoteLeft, Qt::NoModifier, s("`"), true);
-    QCoreApplication::sendEvent(viewport, &repeated);
-    QVERIFY(window().view().get().heldHideOverlays);
+    sendRepeated(viewport, QEvent::KeyRelease, Qt::Key_QuoteLeft);
+    sendRepeated(viewport, QEvent::KeyPress, Qt::Key_QuoteLeft);
+    QVERIFY(settings().heldHideOverlays);
     // Modifiers may have come meanwhile.
     QTest::keyRelease(viewport, Qt::Key_QuoteLeft, Qt::ShiftModifier);
-    QVERIFY(!window().view().get().heldHideOverlays);
+    QVERIFY(!settings().heldHideOverlays);
     QCOMPARE(digest(window()), before);
 }
 
@@ -191,33 +182,32 @@ void StudioTest::momentaryActionEndsWithTheFocus()
 {
     QWidget *viewport = view("viewport");
     QTest::keyPress(viewport, Qt::Key_Space);
-    QVERIFY(window().view().get().heldOrbit);
+    QVERIFY(settings().heldOrbit);
     view("timeline");
-    QVERIFY(!window().view().get().heldOrbit);
+    QVERIFY(!settings().heldOrbit);
     QTest::keyRelease(viewport, Qt::Key_Space);
     QCOMPARE(window().timeline().direction(), 0);
 
     view("viewport");
     QTest::keyPress(viewport, Qt::Key_Space);
-    QVERIFY(window().view().get().heldOrbit);
+    QVERIFY(settings().heldOrbit);
     m_session->store().loadCurrentShortcutConfiguration();
-    QVERIFY(!window().view().get().heldOrbit);
+    QVERIFY(!settings().heldOrbit);
 }
 
 void StudioTest::sameKeyInTwoDocks()
 {
-    const Scene &scene = window().document().scene();
-    const int objects = scene.objects.size();
-    const int nodes = scene.graph.nodes.size();
+    const int objects = scene().objects.size();
+    const int nodes = scene().graph.nodes.size();
     QTest::keyClick(view("viewport"), Qt::Key_A);
-    QCOMPARE(window().document().scene().objects.size(), objects + 1);
-    QCOMPARE(window().document().scene().graph.nodes.size(), nodes);
+    QCOMPARE(scene().objects.size(), objects + 1);
+    QCOMPARE(scene().graph.nodes.size(), nodes);
     QTest::keyClick(view("nodeView"), Qt::Key_A);
-    QCOMPARE(window().document().scene().objects.size(), objects + 1);
-    QCOMPARE(window().document().scene().graph.nodes.size(), nodes + 1);
+    QCOMPARE(scene().objects.size(), objects + 1);
+    QCOMPARE(scene().graph.nodes.size(), nodes + 1);
     // What no context of the dock has comes from those that count everywhere.
     QTest::keyClick(view("timeline"), Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(window().document().scene().graph.nodes.size(), nodes);
+    QCOMPARE(scene().graph.nodes.size(), nodes);
 }
 
 void StudioTest::clickChoosesTheDock()
@@ -230,7 +220,7 @@ void StudioTest::clickChoosesTheDock()
     QCOMPARE(window().timeline().direction(), 1);
     QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier, QPoint(20, 200));
     QTest::keyPress(QApplication::focusWidget(), Qt::Key_Space);
-    QVERIFY(window().view().get().heldOrbit);
+    QVERIFY(settings().heldOrbit);
     QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Space);
 }
 
@@ -238,18 +228,18 @@ void StudioTest::modeComesBeforeViewport()
 {
     QWidget *viewport = view("viewport");
     QTest::keyClick(viewport, Qt::Key_H);
-    QVERIFY(!window().document().scene().active()->visible);
+    QVERIFY(!scene().active()->visible);
     window().document().undo();
     QTest::keyClick(viewport, Qt::Key_Tab);
-    QCOMPARE(window().view().get().mode, s("Mesh"));
+    QCOMPARE(settings().mode, s("Mesh"));
     QCOMPARE(window().findChild<QComboBox *>(s("modeBox"))->currentText(), s("Mesh"));
     QTest::keyClick(viewport, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(viewport, Qt::Key_H);
-    QVERIFY(window().document().scene().active()->visible);
-    QVERIFY(window().document().scene().active()->mesh.faces.first().hidden);
+    QVERIFY(scene().active()->visible);
+    QVERIFY(scene().active()->mesh.faces.first().hidden);
     window().setMode(s("Sculpting")); // C is a brush there, and a loop cut in the mesh
     QTest::keyClick(viewport, Qt::Key_C);
-    QCOMPARE(window().view().get().brush, s("Clay"));
+    QCOMPARE(settings().brush, s("Clay"));
     QTest::keyClick(viewport, Qt::Key_F5); // the viewport's own
     QCOMPARE(window().viewport().camera().pitch, 0.F);
 }
@@ -257,28 +247,26 @@ void StudioTest::modeComesBeforeViewport()
 void StudioTest::keyThatRepeats()
 {
     QWidget *timeline = view("timeline");
-    QKeyEvent next(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), true);
     const int frame = window().timeline().frame();
-    QCoreApplication::sendEvent(timeline, &next);
+    sendRepeated(timeline, QEvent::KeyPress, Qt::Key_Right);
     QCOMPARE(window().timeline().frame(), frame + 1);
-    QKeyEvent play(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, s(" "), true);
-    QCoreApplication::sendEvent(timeline, &play);
+    sendRepeated(timeline, QEvent::KeyPress, Qt::Key_Space); // play, which is not to repeat
     QCOMPARE(window().timeline().direction(), 0);
 }
 
 void StudioTest::textKeepsItsKeys()
 {
     auto *filter = static_cast<QLineEdit *>(view("outlinerFilter"));
-    const int objects = window().document().scene().objects.size();
+    const int objects = scene().objects.size();
     QTest::keyClicks(filter, s("chi."));
     QCOMPARE(filter->text(), s("chi."));
     QTest::keyClick(filter, Qt::Key_Z, Qt::ControlModifier);
     QVERIFY(filter->text() != s("chi."));
     QTest::keyClick(filter, Qt::Key_Delete);
-    QCOMPARE(window().document().scene().objects.size(), objects);
+    QCOMPARE(scene().objects.size(), objects);
     QCOMPARE(window().document().currentStep(), 0);
     QTest::keyClick(filter, Qt::Key_N, Qt::ControlModifier); // no text needs that one
-    QCOMPARE(window().document().scene().objects.size(), 0);
+    QCOMPARE(scene().objects.size(), 0);
 }
 
 void StudioTest::unknownActionsTellTheirNames()
@@ -286,14 +274,13 @@ void StudioTest::unknownActionsTellTheirNames()
     window().setMode(s("Sculpting"));
     QWidget *viewport = view("viewport");
     const QByteArray before = digest(window());
-    press(viewport, "7-remesh");
-    QVERIFY2(window().statusBar()->currentMessage().startsWith(s("Voxel Remesh (")),
-             qPrintable(window().statusBar()->currentMessage()));
+    press(viewport, s("7-remesh"));
+    QVERIFY2(status().startsWith(s("Voxel Remesh (")), qPrintable(status()));
     QCOMPARE(digest(window()), before);
     window().hotkeyActions().entry({1, s("saveScene")})->trigger();
-    QVERIFY(window().statusBar()->currentMessage().startsWith(s("Save Scene (")));
+    QVERIFY(status().startsWith(s("Save Scene (")));
     QTest::keyPress(viewport, Qt::Key_V); // held, and not known either
-    QVERIFY(window().statusBar()->currentMessage().startsWith(s("Smooth Brush While Held...")));
+    QVERIFY(status().startsWith(s("Smooth Brush While Held...")));
     QTest::keyRelease(viewport, Qt::Key_V);
 }
 
@@ -328,7 +315,7 @@ void StudioTest::otherHost()
     start(host.path());
     QCOMPARE(window().modes(), QStringList(s("<i>Tiles</i>")));
     QTest::keyClick(view("viewport"), Qt::Key_F);
-    QVERIFY(window().statusBar()->currentMessage().startsWith(s("<b>Fill</b> & more (")));
+    QVERIFY(status().startsWith(s("<b>Fill</b> & more (")));
     const QAction *entry = window().hotkeyActions().entry({3, s("fill")});
     QCOMPARE(entry->text(), s("<b>Fill</b> && more\tF"));
     QCOMPARE(entry->toolTip(), s("<span>&lt;b&gt;Fill&lt;/b&gt; &amp; more (F)</span>"));

@@ -1,19 +1,15 @@
 #include "KeyText.h"
 #include "MeshEditing.h"
 #include "Primitives.h"
+#include "Text.h"
 
 #include <QtTest>
 
+#include <functional>
+#include <utility>
+#include <vector>
+
 using namespace Studio;
-
-namespace {
-
-QString s(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-} // namespace
 
 class StudioPartsTest : public QObject
 {
@@ -22,7 +18,6 @@ class StudioPartsTest : public QObject
 private Q_SLOTS:
     void keyTexts_data();
     void keyTexts();
-    void meshStaysClosed_data();
     void meshStaysClosed();
 };
 
@@ -30,43 +25,31 @@ void StudioPartsTest::keyTexts_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QStringList>("texts");
-    const int shift = Qt::ShiftModifier;
-    const int keypad = Qt::KeypadModifier;
-    QTest::newRow("letter") << int{Qt::Key_A} << 0 << QStringList{s("A")};
-    QTest::newRow("bracket") << int{Qt::Key_BraceLeft} << shift
-                             << QStringList{s("Shift+{"), s("Shift+["), s("{")};
-    QTest::newRow("plus") << int{Qt::Key_Plus} << shift
-                          << QStringList{s("Shift++"), s("Shift+="), s("+")};
-    QTest::newRow("back tab") << int{Qt::Key_Backtab} << shift
-                              << QStringList{s("Shift+Tab"), s("Shift+Backtab")};
-    QTest::newRow("return") << int{Qt::Key_Return} << 0 << QStringList{s("Return"), s("Enter")};
-    QTest::newRow("keypad") << int{Qt::Key_Plus} << keypad << QStringList{s("Num++"), s("+")};
-    QTest::newRow("modifier") << int{Qt::Key_Control} << int{Qt::ControlModifier} << QStringList();
+    QTest::addColumn<QString>("texts");
+    const auto row = [](const char *name, int key, int modifiers, const char *texts) {
+        QTest::newRow(name) << key << modifiers << texts;
+    };
+    row("letter", Qt::Key_A, Qt::NoModifier, "A");
+    row("bracket", Qt::Key_BraceLeft, Qt::ShiftModifier, "Shift+{|Shift+[|{");
+    row("plus", Qt::Key_Plus, Qt::ShiftModifier, "Shift++|Shift+=|+");
+    row("back tab", Qt::Key_Backtab, Qt::ShiftModifier, "Shift+Tab|Shift+Backtab");
+    row("return", Qt::Key_Return, Qt::NoModifier, "Return|Enter");
+    row("keypad", Qt::Key_Plus, Qt::KeypadModifier, "Num++|+");
+    row("modifier", Qt::Key_Control, Qt::ControlModifier, "");
 }
 
 void StudioPartsTest::keyTexts()
 {
     QFETCH(int, key);
     QFETCH(int, modifiers);
-    QFETCH(QStringList, texts);
+    QFETCH(QString, texts);
     const QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers));
-    QCOMPARE(KeyText::candidates(event), texts);
-}
-
-void StudioPartsTest::meshStaysClosed_data()
-{
-    QTest::addColumn<int>("primitive");
-    for (Primitive primitive : allPrimitives) {
-        if (primitive != Primitive::Plane)
-            QTest::newRow(qPrintable(primitiveName(primitive))) << static_cast<int>(primitive);
-    }
+    QCOMPARE(KeyText::candidates(event), list(texts.toUtf8()));
 }
 
 // Each edge of a closed surface belongs to two faces that go along it in opposite directions.
 void StudioPartsTest::meshStaysClosed()
 {
-    QFETCH(int, primitive);
     const auto isClosed = [](const Mesh &mesh) {
         QMap<QPair<int, int>, int> edges;
         for (const Mesh::Face &face : mesh.faces) {
@@ -77,24 +60,29 @@ void StudioPartsTest::meshStaysClosed()
             return edges.value(edge) == 1 && edges.value({edge.second, edge.first}) == 1;
         });
     };
-    Mesh mesh = makePrimitive(static_cast<Primitive>(primitive));
-    QVERIFY(isClosed(mesh));
-    mesh.selected = {1, 2};
-    MeshEditing::extrudeRegion(mesh, 0.3F);
-    QVERIFY(isClosed(mesh));
-    MeshEditing::extrudeIndividual(mesh, 0.3F);
-    QVERIFY(isClosed(mesh));
-    MeshEditing::inset(mesh, 0.3F);
-    QVERIFY(isClosed(mesh));
-    MeshEditing::triangulate(mesh);
-    QVERIFY(isClosed(mesh));
-    MeshEditing::poke(mesh, 0.1F);
-    QVERIFY(isClosed(mesh));
-    MeshEditing::selectAll(mesh);
-    MeshEditing::subdivide(mesh);
-    QVERIFY(isClosed(mesh));
-    MeshEditing::flipNormals(mesh);
-    QVERIFY(isClosed(mesh));
+    using Step = std::pair<const char *, std::function<void(Mesh &)>>;
+    const std::vector<Step> steps = {
+            {"made",
+             [](Mesh &mesh) {
+                 mesh.selected = {1, 2};
+             }},
+            {"region extruded", [](Mesh &mesh) { MeshEditing::extrudeRegion(mesh, 0.3F); }},
+            {"faces extruded", [](Mesh &mesh) { MeshEditing::extrudeIndividual(mesh, 0.3F); }},
+            {"inset", [](Mesh &mesh) { MeshEditing::inset(mesh, 0.3F); }},
+            {"triangulated", MeshEditing::triangulate},
+            {"poked", [](Mesh &mesh) { MeshEditing::poke(mesh, 0.1F); }},
+            {"all selected", MeshEditing::selectAll},
+            {"subdivided", [](Mesh &mesh) { MeshEditing::subdivide(mesh); }},
+            {"flipped", MeshEditing::flipNormals}};
+    for (Primitive primitive : allPrimitives) {
+        if (primitive == Primitive::Plane)
+            continue;
+        Mesh mesh = makePrimitive(primitive);
+        for (const auto &[name, change] : steps) {
+            change(mesh);
+            QVERIFY2(isClosed(mesh), qPrintable(primitiveName(primitive) + s(": ") + s(name)));
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(StudioPartsTest)

