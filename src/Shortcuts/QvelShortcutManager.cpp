@@ -227,7 +227,7 @@ void QvelShortcutManager::applyTransforms()
 
 void QvelShortcutManager::clearTransforms()
 {
-    if (transformationCount() == 0)
+    if (transformationCount() == 0 && !hasLostSavedSteps)
         return;
     currentShortcuts = baseShortcuts;
     ownerIndex->rebuild(currentShortcuts);
@@ -272,6 +272,7 @@ void QvelShortcutManager::resetTransformations()
     transformations.clear();
     collapser->reset();
     userModTransformIndex = 0;
+    hasLostSavedSteps = false;
 }
 
 void QvelShortcutManager::setUserModTransformIndex(int index)
@@ -292,10 +293,10 @@ void QvelShortcutManager::checkModifiedAndEmit()
         Q_EMIT shortcutTransformsCollapsed();
     }
     const std::size_t count = transformationCount();
-    if (userModTransformIndex < count && !modified) {
+    if ((userModTransformIndex < count || hasLostSavedSteps) && !modified) {
         modified = true;
         Q_EMIT shortcutsModified();
-    } else if (userModTransformIndex == count && modified) {
+    } else if (userModTransformIndex == count && !hasLostSavedSteps && modified) {
         modified = false;
         Q_EMIT shortcutsUnModified();
     }

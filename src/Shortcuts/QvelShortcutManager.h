@@ -128,7 +128,8 @@ public:
     /// steps are cancelled first, even when the file can then not be written. Emits
     /// shortcutTransformsCollapsed(), then shortcutsUnModified() if there were unsaved edits.
     /// Returns false, with the old file untouched and the store as modified as before, when it
-    /// cannot be written.
+    /// cannot be written. If steps that the file has were cancelled with unsaved ones, the store
+    /// then stays modified, whatever is edited, until it is saved, cleared or loaded again.
     bool saveShortcutTransforms(const QString &path);
 
     /// Replaces the recorded steps by those of a hotkey set file and applies them, as unmodified
@@ -248,6 +249,8 @@ private:
 
     std::uint64_t userModTransformIndex = 0;
     bool modified = false;
+    /// Since a save that failed, the list lacks steps that the file of the set still has.
+    bool hasLostSavedSteps = false;
     ShortcutMap currentShortcuts;
     ShortcutMap baseShortcuts;
     // Cancelled steps stay in the list until somebody looks at it: removing one at once would cost

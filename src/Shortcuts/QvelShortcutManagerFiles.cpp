@@ -146,6 +146,7 @@ bool QvelShortcutManager::saveShortcutTransforms(const QString &callersPath)
         reclaimUnsavedSteps(savedSteps);
         return false;
     }
+    hasLostSavedSteps = false;
     setUserModTransformIndex(static_cast<int>(transformationCount()));
     if (!validateShortcutsTransforms(path))
         qDebug("Generated transformation file doesn't conform to the schema defined in "
@@ -169,20 +170,22 @@ bool QvelShortcutManager::writeTransforms(const QString &path) const
 
 // After a save that failed, the list has been cancelled across the boundary between saved and
 // unsaved steps. Only what the saved steps and the list have in common at their start still counts
-// as saved; otherwise unsaved edits would pass for saved ones.
+// as saved; otherwise unsaved edits would pass for saved ones. Saved steps that have gone with
+// unsaved ones are still in the file, so that no edit of the list alone can be the way back to it.
 void QvelShortcutManager::reclaimUnsavedSteps(const std::vector<ShortcutTransformation> &savedSteps)
 {
+    const auto &steps = currentTransformations();
+    if (!modified) {
+        userModTransformIndex = steps.size(); // the same edits, some in fewer steps
+        return;
+    }
     const auto isSame = [](const ShortcutTransformation &a, const ShortcutTransformation &b) {
         return a.kind() == b.kind() && a.actionId() == b.actionId() && a.shortcut() == b.shortcut();
     };
-    const auto &steps = currentTransformations();
     const auto common =
             std::mismatch(savedSteps.begin(), savedSteps.end(), steps.begin(), steps.end(), isSame);
-    const bool lostSavedSteps = common.first != savedSteps.end();
-    const bool allCommon = common.second == steps.end();
-    userModTransformIndex = lostSavedSteps && allCommon
-                                    ? 0
-                                    : static_cast<std::uint64_t>(common.second - steps.begin());
+    hasLostSavedSteps |= common.first != savedSteps.end();
+    userModTransformIndex = static_cast<std::uint64_t>(common.second - steps.begin());
 }
 
 bool QvelShortcutManager::loadShortcutTransforms(const QString &callersPath)

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void failingSaveKeepsTheOldFile_data();
     void failingSaveKeepsTheOldFile();
     void failingSaveKeepsTheEdits();
+    void editsOfAFailedSaveCanBeDiscarded();
     void keepsWhatStandsBeforeAnError();
     void tellsOfSavedFileThatDoesNotConform();
     void refusesHotkeysThatXmlCannotHold();
@@ -279,15 +280,31 @@ void TestStoreFiles::failingSaveKeepsTheEdits()
     unassign(a, "Y");
     QVERIFY(!m_store->saveShortcutTransforms(nowhere));
     assign(b, "Q");
-    QVERIFY(m_store->isUserModified());
     QVERIFY(m_store->isUserModifiedAction(b));
     QVERIFY(!m_store->saveShortcutTransforms(nowhere));
     unassign(b, "Q");
     QVERIFY(m_store->isUserModified()); // the file has Y
     unassign(a, "X");
+    QVERIFY(!m_store->saveShortcutTransforms(nowhere));
+    QVERIFY(m_store->currentTransformations().empty());
+    assign(b, "Q");
+    unassign(b, "Q");
+    QVERIFY(m_store->isUserModified()); // the file has both
     QVERIFY(m_store->saveShortcutTransforms(set));
     QVERIFY(!m_store->isUserModified());
-    QVERIFY(m_store->currentTransformations().empty());
+    QCOMPARE(TestHost::read(set).count("Id="), 0);
+}
+
+void TestStoreFiles::editsOfAFailedSaveCanBeDiscarded()
+{
+    assign(a, "X");
+    QVERIFY(m_store->saveShortcutTransforms(m_host->path(s("a.hsx"))));
+    unassign(a, "X");
+    QVERIFY(!m_store->saveShortcutTransforms(m_host->path(s("nowhere/a.hsx"))));
+    m_recorder->take();
+    QVERIFY(m_store->loadShortcutTransforms(m_host->path(s("a.hsx"))));
+    QCOMPARE(m_recorder->takeSignals().mid(0, 2), list("unmodified|transformsCleared"));
+    QCOMPARE(held(a), s("X"));
 }
 
 // The file changes between the check and the reading, as only a slot can make it happen here.
