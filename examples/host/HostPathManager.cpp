@@ -104,10 +104,13 @@ void HostPathManager::setCurrentConfigurationFile(CUI::ConfigType type, const QS
 {
     // Loading the current set names it anew each time, which is no choice of the user's: a default
     // stays one, and a file that is away for a while is not forgotten.
-    const QString file = absolute(path);
-    if (file == getCurrentConfigurationFile(type))
-        return;
-    m_current.insert(type, file);
+    if (absolute(path) != getCurrentConfigurationFile(type))
+        chooseConfigurationFile(type, path);
+}
+
+void HostPathManager::chooseConfigurationFile(CUI::ConfigType type, const QString &path)
+{
+    m_current.insert(type, absolute(path));
     if (m_record == Record::OnDisk)
         writeRecord();
 }
@@ -163,7 +166,9 @@ void HostPathManager::writeRecord() const
         return;
     }
     QSaveFile file(recordPath());
-    if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.commit()) {
+    // Only flushing tells whether the last bytes could be written.
+    if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.flush()
+        || !file.commit()) {
         warn(QStringLiteral("The current set is not recorded: '%1' cannot be written: %2")
                      .arg(file.fileName(), file.errorString()));
     }

@@ -16,8 +16,8 @@ namespace Host {
 ///     USER/           the user's hotkey sets, current.json, hotkeys.log
 ///
 /// current.json records the files in use. It is read once, by the constructor, and written by
-/// setCurrentConfigurationFile(). Nothing else here writes, so that looking at a host leaves no
-/// trace; createUserDirectory() is for hosts that want a log file.
+/// setCurrentConfigurationFile() and chooseConfigurationFile(). Nothing else here writes, so that
+/// looking at a host leaves no trace; createUserDirectory() is for hosts that want a log file.
 class HostPathManager : public CUI::IPathManager
 {
 public:
@@ -44,6 +44,9 @@ public:
     /// Does nothing when @p path is the current file already. A record that cannot be written is
     /// logged as a warning; the file is current all the same, until the program ends.
     void setCurrentConfigurationFile(CUI::ConfigType type, const QString &path) override;
+    /// The same for a choice of the user's: recorded even when it is the current file, so that a
+    /// default that was chosen stays when the host has another default one day.
+    void chooseConfigurationFile(CUI::ConfigType type, const QString &path);
     QStringList getBaseHotkeyFiles() const override;
 
 private:

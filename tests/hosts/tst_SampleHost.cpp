@@ -1,3 +1,4 @@
+#include "FullDisk.h"
 #include "HostActionRegistry.h"
 #include "SampleHost.h"
 #include "Text.h"
@@ -53,6 +54,7 @@ private Q_SLOTS:
     void inMemoryTheRecordStaysAsItWas();
     void warnsOfARecordThatCannotBeRead();
     void warnsOfARecordThatCannotBeWritten();
+    void aFullDiskKeepsTheOldRecord();
 
 private:
     QString path(const char *name) const { return m_folder->filePath(s(name)); }
@@ -210,6 +212,19 @@ void SampleHostTest::warnsOfARecordThatCannotBeWritten()
                      && m_logged.constFirst().contains(user),
              qPrintable(m_logged.constFirst()));
     QVERIFY(!host->paths()->createUserDirectory());
+}
+
+void SampleHostTest::aFullDiskKeepsTheOldRecord()
+{
+    auto host = start();
+    setCurrentSet(m_mine);
+    {
+        const FullDisk disk(20);
+        setCurrentSet(m_defaultSet);
+        QCOMPARE(m_logged.size(), 1);
+    }
+    host = start();
+    QCOMPARE(currentSet(), m_mine);
 }
 
 QTEST_GUILESS_MAIN(SampleHostTest)

@@ -19,11 +19,7 @@ constexpr auto hotkeySet = CUI::ConfigType::HotkeySet;
 /// False when the record on disk does not name the set @p path afterwards.
 bool record(const QString &path, Host::HostPathManager &paths)
 {
-    // What is current already is not recorded, but a default that the user has chosen is to stay
-    // when the host has another default one day.
-    if (paths.getCurrentConfigurationFile(hotkeySet) == path)
-        paths.setCurrentConfigurationFile(hotkeySet, QString());
-    paths.setCurrentConfigurationFile(hotkeySet, path);
+    paths.chooseConfigurationFile(hotkeySet, path);
 
     // What the next program will find, without a default to fall back on.
     const Host::HostPathManager next(paths.getInstallDirectory(), paths.getUserDirectory(),
