@@ -384,6 +384,12 @@ void TestHotkeyEditorSets::mayGoWhileItAsks_data()
         before.expectFile("Validate Shortcut File", h.userSet);
     };
     row("validate", validate, [](H &h, D &) { h.editor->validateShortcutFile(); });
+    row("seventh hotkey", nothing, [](H &h, D &) {
+        h.select(boxes);
+        for (const int key : {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5, Qt::Key_6})
+            h.enter(key);
+        h.enter(Qt::Key_7);
+    });
     for (const char *keys : {"<Other/>", "<VLSK_KBD/>"}) {
         const Steps import = [keys](H &h, D &before) {
             h.host.write(s("legacy/LegacyDefaultUI-2019.kbdx"), "<VLSK_KBD/>");

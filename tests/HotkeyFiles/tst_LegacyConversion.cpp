@@ -193,8 +193,12 @@ void TestLegacyConversion::keepsTheOldSetWhenTheDiskIsFull()
     writeDefaults(keyboard({}));
     const QString in = m_host->write(s("in.kbdx"), keyboard(shortcut(3, 0x41, "all")));
     const QString out = m_host->write(s("out.hsx"), "old");
+    QSignalSpy lines(&CUI::QvelMessageLog::getInstance(), &CUI::QvelMessageLog::messageLogged);
     const FullDisk disk(50);
     QVERIFY(!QvelShortcutManager::convertLegacyShortcuts(in, out));
+    QCOMPARE(lines.size(), 1);
+    QCOMPARE(lines.last().at(0).toString(),
+             s("Error: Could not open '%1' to store the results of conversion.").arg(out));
     QCOMPARE(TestHost::read(out), QByteArray("old"));
 }
 

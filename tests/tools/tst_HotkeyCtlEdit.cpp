@@ -19,6 +19,8 @@ private Q_SLOTS:
     void edits();
     void refusesEditsThatCannotBeMade_data();
     void refusesEditsThatCannotBeMade();
+    void refusesEditsThatSavingUndoes_data();
+    void refusesEditsThatSavingUndoes();
     void leavesFilesThatAreNotToBeReplaced_data();
     void leavesFilesThatAreNotToBeReplaced();
     void editsASetInPlace();
@@ -48,6 +50,9 @@ void HotkeyCtlEditTest::edits_data()
     for (const char *held : {"Ctrl+K", "ctrl+k"})
         row("unassign 1-plain CTRL+K", held, "Took % from Plain (1-plain) in Editing.\n", "");
     row("unassign 1-plain Crtl+K", "Crtl+K", "Took % from Plain (1-plain) in Editing.\n", "");
+    row("unassign 1-plain Ctrl+X", "Ctrl+X",
+        "Took % from Plain (1-plain) in Editing.\nIn the saved set Cut (1-cut) holds Ctrl+X.\n",
+        "");
 }
 
 void HotkeyCtlEditTest::edits()
@@ -83,6 +88,33 @@ void HotkeyCtlEditTest::refusesEditsThatCannotBeMade()
     QCOMPARE(m_host->run(s(QTest::currentDataTag()) + s(" --save @/saved.hsx")).refusal(),
              s("hotkeyctl: %1\n").arg(error));
     QVERIFY(!m_host->exists("saved.hsx"));
+}
+
+void HotkeyCtlEditTest::refusesEditsThatSavingUndoes_data()
+{
+    QTest::addColumn<QByteArray>("steps");
+    QTest::addColumn<QString>("held");
+
+    QTest::newRow("assign 1-plain F9")
+            << step("Assign", "F9", "1-plain") + step("Assign", "F9", "1-cut")
+            << "Plain (1-plain) holds no hotkey";
+    QTest::newRow("unassign 1-cut Ctrl+X")
+            << step("Assign", "Ctrl+X", "1-cut") << "Cut (1-cut) holds Ctrl+X";
+}
+
+void HotkeyCtlEditTest::refusesEditsThatSavingUndoes()
+{
+    QFETCH(QByteArray, steps);
+    QFETCH(QString, held);
+    const QString mine = m_host->writeSet("mine.hsx", steps);
+    const QByteArray before = ToolHost::read(mine);
+    for (const char *save : {"", " --save @/mine.hsx"}) {
+        const QString edit = s("--log-level 0 --set @/mine.hsx ") + s(QTest::currentDataTag());
+        QCOMPARE(m_host->run(edit + s(save)).refusal(),
+                 s("hotkeyctl: an earlier step undoes this one in the saved set: there %1\n")
+                         .arg(held));
+    }
+    QCOMPARE(ToolHost::read(mine), before);
 }
 
 void HotkeyCtlEditTest::leavesFilesThatAreNotToBeReplaced_data()
