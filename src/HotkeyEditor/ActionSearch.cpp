@@ -2,18 +2,24 @@
 
 #include "EditorText.h"
 #include "HotkeyEditorForm.h"
+#include "HotkeyField.h"
 #include "QvelActionItemModel.h"
 #include "QvelSortFilterProxyModel.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTreeView>
 
 namespace CUI {
 
 ActionSearch::ActionSearch(HotkeyEditorForm &form, QvelSortFilterProxyModel *proxy, QObject *parent)
-    : QObject(parent), m_form(form), m_proxy(proxy)
+    : QObject(parent),
+      m_form(form),
+      m_proxy(proxy),
+      m_hotkey(new HotkeyField(form.searchLineEdit, HotkeyField::Modifiers::UntilLeft))
 {
+    m_hotkey->setActive(isByHotkeys());
 }
 
 bool ActionSearch::isByHotkeys() const
@@ -34,7 +40,7 @@ void ActionSearch::searchByHotkeys()
 void ActionSearch::setKeyColumn(int column)
 {
     m_proxy->setFilterKeyColumn(column);
-    m_form.searchLineEdit->setAttribute(Qt::WA_InputMethodEnabled, !isByHotkeys());
+    m_hotkey->setActive(isByHotkeys());
     retranslate();
     m_form.searchLineEdit->clear();
 }
@@ -56,16 +62,12 @@ void ActionSearch::returnToColumnSorting()
     m_form.keyActionsTreeView->header()->setSortIndicatorShown(true);
 }
 
-void ActionSearch::capture(const QKeyEvent &event)
+bool ActionSearch::handleKey(const QKeyEvent &press)
 {
-    m_captured = HotkeyRecorder::capture(event);
-    m_form.searchLineEdit->setText(HotkeyRecorder::text(m_captured));
-}
-
-void ActionSearch::releaseKeys()
-{
-    if (m_captured.combination == 0)
-        m_form.searchLineEdit->clear();
+    if (isByHotkeys() || press.key() != Qt::Key_Escape)
+        return false;
+    m_form.searchLineEdit->clear();
+    return true;
 }
 
 void ActionSearch::followText(const QString &text)
@@ -78,8 +80,7 @@ void ActionSearch::followText(const QString &text)
 
 void ActionSearch::updateHotkeySearch(const QString &text)
 {
-    if (text.isEmpty() || m_captured.combination == 0) {
-        m_captured = {};
+    if (text.isEmpty() || !m_hotkey->hasHotkey()) {
         m_form.keyActionsTreeView->header()->setSortIndicatorShown(true);
         restoreSort();
     } else if (m_savedSortColumn < 0) {
@@ -88,10 +89,7 @@ void ActionSearch::updateHotkeySearch(const QString &text)
         m_form.keyActionsTreeView->sortByColumn(QvelActionItemModel::HotkeyColumn,
                                                 Qt::AscendingOrder);
     }
-    m_proxy->updateFilterString(
-            m_captured.combination == 0
-                    ? QString()
-                    : QKeySequence(m_captured.combination).toString(QKeySequence::PortableText));
+    m_proxy->updateFilterString(m_hotkey->hotkey());
 }
 
 void ActionSearch::updateActionSearch(const QString &text)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "HotkeyRecorder.h"
-
 #include <QObject>
 
 class QKeyEvent;
@@ -9,10 +7,11 @@ class QKeyEvent;
 namespace CUI {
 
 class HotkeyEditorForm;
+class HotkeyField;
 class QvelSortFilterProxyModel;
 
-/// The search field of the hotkey editor: searches by names or by a hotkey that is pressed, and
-/// brings back the sort order of before when the search ends.
+/// The search field of the hotkey editor: searches by names or by a hotkey that is pressed. When
+/// the search ends, it restores the sort order.
 class ActionSearch : public QObject
 {
     Q_OBJECT
@@ -26,9 +25,8 @@ public:
     void searchByHotkeys();
     /// A header was clicked: plain sorting by that column, even during a search.
     void returnToColumnSorting();
-    void capture(const QKeyEvent &event);
-    /// The field has been left: held modifiers no longer stand in it.
-    void releaseKeys();
+    /// A key press in the field. True when it is handled: Escape ends a search by names.
+    bool handleKey(const QKeyEvent &press);
     void followText(const QString &text);
     /// Sets the placeholder in the current language.
     void retranslate();
@@ -42,8 +40,8 @@ private:
 
     HotkeyEditorForm &m_form;
     QvelSortFilterProxyModel *m_proxy;
-    HotkeyRecorder::Capture m_captured;
-    // What to return to when the search ends; -1 while there is no search.
+    HotkeyField *m_hotkey; // active while the search is by hotkeys
+    // The sort order to restore when the search ends; -1 while there is no search.
     int m_savedSortColumn = -1;
     Qt::SortOrder m_savedSortOrder = Qt::AscendingOrder;
 };

@@ -1,11 +1,14 @@
 #include "ActionSelectionPanel.h"
 
 #include "ActionListTreeItemDelegate.h"
+#include "AssignedHotkeyRows.h"
 #include "EditorText.h"
+#include "FocusWithin.h"
 #include "HotkeyEditorForm.h"
+#include "HotkeyField.h"
+#include "HotkeyText.h"
 #include "QvelActionItem.h"
 #include "QvelActionItemModel.h"
-#include "QvelAssignedShortcutListItem.h"
 #include "QvelAssignedShortcutsScrollArea.h"
 #include "QvelShortcutManager.h"
 #include "VelAction.h"
@@ -19,7 +22,6 @@
 #include <QSortFilterProxyModel>
 #include <QTextBoundaryFinder>
 #include <QTreeView>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -35,19 +37,25 @@ ActionSelectionPanel::ActionSelectionPanel(HotkeyEditorForm &form, QvelActionIte
       m_model(model),
       m_manager(manager),
       m_proxy(proxy),
-      m_colors(colors)
+      m_field(new HotkeyField(form.shortcutLineEdit, HotkeyField::Modifiers::UntilReleased)),
+      m_rows(new AssignedHotkeyRows(form.assignedHotkeysScrollArea, manager, colors, this))
 {
+    connect(form.shortcutLineEdit, &QLineEdit::textChanged, this,
+            &ActionSelectionPanel::updateAssignedShortcutFields);
+    connect(m_field, &HotkeyField::pressed, this,
+            &ActionSelectionPanel::updateAssignedShortcutFields);
+    connect(m_rows, &AssignedHotkeyRows::removeClicked, this, &ActionSelectionPanel::removeRow);
+    connect(m_rows, &AssignedHotkeyRows::undoClicked, this, &ActionSelectionPanel::undoRow);
 }
 
 // Selection
 
 void ActionSelectionPanel::showRow(const QModelIndex &current)
 {
-    m_captured = {}; // the field does not tell while its signals are blocked
-    m_form.shortcutLineEdit->clear();
+    m_field->clear();
     m_form.assignedToLabel->clear();
     m_form.selectedActionLabel->clear();
-    clearAssignedHotkeyGroupBox();
+    m_rows->clear();
     m_form.assignShortcutButton->setEnabled(false);
     m_form.removeShortcutButton->setEnabled(false);
     const QModelIndex source = m_proxy->mapToSource(current);
@@ -91,7 +99,7 @@ void ActionSelectionPanel::showNoAction()
     m_form.actionDescriptionLabel->setText(editorText(QT_TRANSLATE_NOOP(
             "QvelShortcutsWidget", "Select an action in the table to edit its hotkeys.")));
     m_form.actionDescriptionLabel->show();
-    if (holdsFocus(m_form.newHotkeysGroupBox)) // the table would select its first row
+    if (hasFocusWithin(m_form.newHotkeysGroupBox)) // the table would select its first row
         m_form.searchLineEdit->setFocus(Qt::OtherFocusReason);
     m_form.newHotkeysGroupBox->hide();
 }
@@ -130,7 +138,7 @@ void ActionSelectionPanel::clearSelection()
 
 void ActionSelectionPanel::resetSelectedActionFields()
 {
-    m_form.shortcutLineEdit->clear();
+    m_field->clear();
     hideAlreadyAssignedControls();
     updateSelectedActionShortcutList();
 }
@@ -141,33 +149,6 @@ void ActionSelectionPanel::retranslate()
 }
 
 // Typing a hotkey
-
-void ActionSelectionPanel::capture(const QKeyEvent &event)
-{
-    m_captured = HotkeyRecorder::capture(event);
-    m_form.shortcutLineEdit->setText(HotkeyRecorder::text(m_captured));
-    updateAssignedShortcutFields(); // the text may be the one that stood there before
-}
-
-void ActionSelectionPanel::releaseKeys()
-{
-    if (m_captured.combination == 0)
-        m_form.shortcutLineEdit->clear();
-}
-
-void ActionSelectionPanel::followTypedText(const QString &text)
-{
-    if (text.isEmpty())
-        m_captured = {};
-    updateAssignedShortcutFields();
-}
-
-QString ActionSelectionPanel::capturedShortcut() const
-{
-    if (m_captured.combination == 0)
-        return {};
-    return QKeySequence(m_captured.combination).toString(QKeySequence::PortableText);
-}
 
 VelAction *ActionSelectionPanel::holderOf(const QString &shortcut) const
 {
@@ -182,10 +163,10 @@ void ActionSelectionPanel::updateAssignedShortcutFields()
     const VelAction *action = currentAction();
     if (action == nullptr)
         return;
-    const VelAction *holder = holderOf(capturedShortcut());
+    const VelAction *holder = holderOf(m_field->hotkey());
     if (holder == nullptr || holder->identifier() == action->identifier()) {
         m_form.assignedToLabel->clear();
-        m_form.assignShortcutButton->setEnabled(m_captured.combination != 0);
+        m_form.assignShortcutButton->setEnabled(m_field->hasHotkey());
         hideAlreadyAssignedControls();
     } else {
         m_form.assignedToLabel->setText(holder->name());
@@ -224,26 +205,32 @@ void ActionSelectionPanel::fitBoxHeight()
 void ActionSelectionPanel::assign()
 {
     const VelAction *action = currentAction();
-    const QString shortcut = capturedShortcut();
+    const QString shortcut = m_field->hotkey();
     if (action == nullptr || shortcut.isEmpty())
         return;
     const bool isHeld = holderOf(shortcut) != nullptr;
-    if (!isHeld && currentShortcuts().size() >= QShortcutsList::ShortcutLimitPerAction) {
-        tellThatListIsFull();
+    if (!isHeld && isFull()) {
+        reportFullList();
         return;
     }
     const ActionIdentifier id = action->identifier();
     const QString name = action->name();
-    m_form.shortcutLineEdit->clear();
+    m_field->clear();
     if (isHeld)
         return;
     m_manager->assignShortcut(id, shortcut, name);
     hideReassignControls();
 }
 
-void ActionSelectionPanel::tellThatListIsFull()
+bool ActionSelectionPanel::isFull() const
 {
-    // Has the editor's window as its parent, and goes with it when the host closes the editor now.
+    const QString hotkeys = m_manager->getShortcutsFromActionId(m_currentAction);
+    return HotkeyText::split(hotkeys).size() >= QShortcutsList::ShortcutLimitPerAction;
+}
+
+void ActionSelectionPanel::reportFullList()
+{
+    // The editor's window is its parent, and destroys it when the host closes the editor now.
     const QPointer<QMessageBox> box = new QMessageBox(
             QMessageBox::Information,
             editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Too Many Hotkeys")),
@@ -258,7 +245,7 @@ void ActionSelectionPanel::tellThatListIsFull()
 
 void ActionSelectionPanel::removeFromHolder()
 {
-    const QString shortcut = capturedShortcut();
+    const QString shortcut = m_field->hotkey();
     const VelAction *holder = holderOf(shortcut);
     if (holder == nullptr)
         return;
@@ -285,6 +272,61 @@ void ActionSelectionPanel::undoRemoval()
     updateAssignedShortcutFields();
 }
 
+void ActionSelectionPanel::removeRow(const QString &shortcut)
+{
+    const VelAction *action = currentAction();
+    if (action == nullptr)
+        return;
+    const ActionIdentifier id = action->identifier();
+    m_manager->unassignShortcut(id, shortcut, action->name());
+    m_rows->addRemoved(shortcut);
+    m_field->clear();
+}
+
+void ActionSelectionPanel::undoRow(const QString &shortcut)
+{
+    const VelAction *action = currentAction();
+    if (action == nullptr)
+        return;
+    if (isFull()) {
+        reportFullList();
+        return;
+    }
+    const ActionIdentifier id = action->identifier();
+    m_manager->assignShortcut(id, shortcut, action->name());
+    m_field->clear();
+}
+
+// Rows
+
+void ActionSelectionPanel::updateSelectedActionShortcutList()
+{
+    if (currentAction() != nullptr)
+        m_rows->show(m_currentAction);
+    else
+        m_rows->clear();
+}
+
+void ActionSelectionPanel::followStep(const ShortcutTransformation &step)
+{
+    if (currentAction() == nullptr)
+        return;
+    if (step.actionId() == m_currentAction) {
+        if (step.kind() == ShortcutTransformation::Assign)
+            m_rows->addAssigned(m_currentAction, step.shortcut());
+        else
+            m_rows->remove(step.shortcut());
+    }
+    // Another action may have got, or lost, the hotkey in the field.
+    if (step.actionId() == m_currentAction
+        || step.shortcut().compare(m_field->hotkey(), Qt::CaseInsensitive) == 0)
+        updateAssignedShortcutFields();
+    // A step for another action can have taken a hotkey from this one, and a step may have had no
+    // effect at all.
+    if (!m_rows->agreeWithStore(m_currentAction))
+        updateSelectedActionShortcutList();
+}
+
 // Conflict and removal
 
 void ActionSelectionPanel::hideAlreadyAssignedControls()
@@ -303,8 +345,7 @@ void ActionSelectionPanel::showAlreadyAssignedControls()
     m_form.assignedToLabel->show();
     m_form.removeShortcutButton->show();
     m_form.removeShortcutButton->setEnabled(true);
-    const QVBoxLayout *layout = rowLayout();
-    m_form.hotkeyListSeparatorLine->setVisible(layout != nullptr && layout->count() >= 2);
+    m_form.hotkeyListSeparatorLine->setVisible(!m_rows->isEmpty());
     // The focus is in the field, and labels beside it are not read out by themselves.
     m_form.shortcutLineEdit->setAccessibleDescription(m_form.alreadyAssignedLabel->text()
                                                       + QLatin1Char(' ')

@@ -1,31 +1,28 @@
 #pragma once
 
 #include "ActionIdentifier.h"
-#include "HotkeyRecorder.h"
 
 #include <QObject>
 #include <QString>
 
-class QKeyEvent;
 class QLabel;
 class QModelIndex;
 class QSortFilterProxyModel;
-class QVBoxLayout;
-class QWidget;
 
 namespace CUI {
 
 class ActionListTreeItemDelegate;
+class AssignedHotkeyRows;
 class HotkeyEditorForm;
+class HotkeyField;
 class QvelActionItemModel;
-class QvelAssignedShortcutListItem;
 class QvelShortcutManager;
 class ShortcutTransformation;
 class VelAction;
 
 /// The right side of the hotkey editor: the selected action, the hotkey that is being typed with
-/// its conflict, and the rows of the assigned hotkeys. Edits go to the store; the rows follow what
-/// the store announces.
+/// its conflict, and the assigned hotkeys. Edits are made in the store; what is shown follows the
+/// signals of the store.
 class ActionSelectionPanel : public QObject
 {
     Q_OBJECT
@@ -48,13 +45,8 @@ public:
     void retranslate();
     /// @}
 
-    /// \name Typing a hotkey
-    /// @{
-    void capture(const QKeyEvent &event);
-    void releaseKeys();
-    void followTypedText(const QString &text);
+    /// The hotkey in the field, or who holds it, has changed.
     void updateAssignedShortcutFields();
-    /// @}
 
     /// \name Edits
     /// @{
@@ -63,11 +55,8 @@ public:
     void undoRemoval();
     /// @}
 
-    /// \name Rows
-    /// @{
     void updateSelectedActionShortcutList();
     void followStep(const ShortcutTransformation &step);
-    /// @}
 
     void hideAlreadyAssignedControls();
     void hideReassignControls();
@@ -81,37 +70,22 @@ private:
     void showAction(const QModelIndex &sourceIndex, const VelAction &action);
     void showNoAction();
     void describe(const VelAction &action, const QString &group);
-    QString capturedShortcut() const;
     VelAction *holderOf(const QString &shortcut) const;
-    void showAlreadyAssignedControls();
-    void showReassignControls();
-    void tellThatListIsFull();
-
-    void clearAssignedHotkeyGroupBox();
-    void addActionShortcutToScrollArea(const ActionIdentifier &id, const QString &shortcut);
-    void addReassignActionShortcutToScrollArea(const QString &shortcut);
-    void removeActionShortcutFromScrollArea(const QString &shortcut);
-    void dropSeparatorWithoutRows();
+    bool isFull() const;
+    void reportFullList();
     void removeRow(const QString &shortcut);
     void undoRow(const QString &shortcut);
-    void chainRows();
-    QvelAssignedShortcutListItem *rowOf(const QString &shortcut) const;
-    void focusRow(const QString &shortcut);
-    void takeFocusFrom(const QWidget *widget);
-    static bool holdsFocus(const QWidget *widget);
-    bool rowsAgreeWithStore() const;
-    QStringList currentShortcuts() const;
-    QVBoxLayout *rowLayout() const;
-    QList<QvelAssignedShortcutListItem *> rows() const;
+    void showAlreadyAssignedControls();
+    void showReassignControls();
 
     HotkeyEditorForm &m_form;
     QvelActionItemModel *m_model;
     QvelShortcutManager *m_manager;
     QSortFilterProxyModel *m_proxy;
-    const ActionListTreeItemDelegate *m_colors;
+    HotkeyField *m_field;
+    AssignedHotkeyRows *m_rows;
 
     ActionIdentifier m_currentAction;
-    HotkeyRecorder::Capture m_captured;
     // What Remove took from whom, kept for Undo.
     ActionIdentifier m_removedFromId;
     QString m_removedFromName;

@@ -7,7 +7,6 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -202,34 +201,11 @@ void QvelShortcutsWidget::applyCurrentTransformation()
 
 bool QvelShortcutsWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == d->form.newHotkeysGroupBox) {
-        if (event->type() == QEvent::Resize)
-            d->panel->fitBoxHeight();
-        return false;
-    }
-    const bool typesHotkey = watched == d->form.shortcutLineEdit;
-    const bool typesSearch = watched == d->form.searchLineEdit;
-    if (!typesHotkey && !typesSearch)
-        return QWidget::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::ShortcutOverride:
-        // The field wants the keys that would fire a shortcut of the host.
-        if (typesSearch && !d->search->isByHotkeys())
-            break;
-        event->accept();
+    if (watched == d->form.newHotkeysGroupBox && event->type() == QEvent::Resize)
+        d->panel->fitBoxHeight();
+    if (watched == d->form.searchLineEdit && event->type() == QEvent::KeyPress
+        && d->search->handleKey(*static_cast<QKeyEvent *>(event)))
         return true;
-    case QEvent::KeyPress:
-        return d->filterKeyPress(typesHotkey, *static_cast<QKeyEvent *>(event));
-    case QEvent::KeyRelease:
-        if (typesHotkey)
-            d->panel->releaseKeys();
-        return typesHotkey;
-    case QEvent::MouseButtonRelease:
-        // A pasted selection would be text that no key was pressed for.
-        return typesHotkey && static_cast<QMouseEvent *>(event)->button() == Qt::MiddleButton;
-    default:
-        break;
-    }
     return QWidget::eventFilter(watched, event);
 }
 

@@ -154,7 +154,7 @@ Q_SIGNALS:
     void legacyHotkeySetConverted(bool success);
 
 protected:
-    /// Takes the keys that are typed into the fields of the search and of the new hotkey.
+    /// Escape in the search field ends a search by names.
     bool eventFilter(QObject *watched, QEvent *event) override;
     /// Takes over the texts of another language.
     void changeEvent(QEvent *event) override;

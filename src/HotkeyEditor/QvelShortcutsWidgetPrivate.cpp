@@ -13,7 +13,6 @@
 #include <QFileSystemWatcher>
 #include <QGroupBox>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -165,12 +164,7 @@ void QvelShortcutsWidget::Private::setUpTree()
 
 void QvelShortcutsWidget::Private::setUpFields()
 {
-    for (QLineEdit *field : {form.shortcutLineEdit, form.searchLineEdit})
-        field->installEventFilter(q);
-    // Only pressed keys make a hotkey: nothing is pasted, dropped or composed.
-    form.shortcutLineEdit->setContextMenuPolicy(Qt::NoContextMenu);
-    form.shortcutLineEdit->setAcceptDrops(false);
-    form.shortcutLineEdit->setAttribute(Qt::WA_InputMethodEnabled, false);
+    form.searchLineEdit->installEventFilter(q);
     form.actionRadioButton->setChecked(true);
     search->retranslate();
     panel->hideAlreadyAssignedControls();
@@ -255,8 +249,6 @@ void QvelShortcutsWidget::Private::connectLists()
 {
     connect(watcher, &QFileSystemWatcher::directoryChanged, q,
             [this](const QString &directory) { followDirectory(directory); });
-    connect(form.shortcutLineEdit, &QLineEdit::textChanged, panel,
-            &ActionSelectionPanel::followTypedText);
     QHeaderView *header = form.keyActionsTreeView->header();
     connect(header, &QHeaderView::sectionPressed, search, &ActionSearch::returnToColumnSorting);
     connect(form.searchLineEdit, &QLineEdit::textChanged, search, &ActionSearch::followText);
@@ -369,38 +361,6 @@ void QvelShortcutsWidget::Private::keepCurrentActionInView()
         tree->scrollToTop();
     if (!panel->currentActionId().isEmpty())
         panel->setCurrentAction(panel->currentActionId(), false);
-}
-
-bool QvelShortcutsWidget::Private::filterKeyPress(bool typesHotkey, const QKeyEvent &event)
-{
-    if (typesHotkey || search->isByHotkeys()) {
-        if (!event.isAutoRepeat())
-            takeKey(typesHotkey, event);
-        return true;
-    }
-    if (event.key() != Qt::Key_Escape)
-        return false;
-    form.searchLineEdit->clear();
-    return true;
-}
-
-void QvelShortcutsWidget::Private::takeKey(bool typesHotkey, const QKeyEvent &event)
-{
-    if (typesHotkey)
-        panel->capture(event);
-    else
-        search->capture(event);
-    // All other keys stay in the field.
-    const auto way = HotkeyRecorder::wayOut(event);
-    const QLineEdit *field = typesHotkey ? form.shortcutLineEdit : form.searchLineEdit;
-    if (way == HotkeyRecorder::WayOut::None || !field->hasFocus())
-        return;
-    q->focusNextPrevChild(way == HotkeyRecorder::WayOut::Next);
-    // The keys will be released elsewhere.
-    if (typesHotkey)
-        QMetaObject::invokeMethod(panel, &ActionSelectionPanel::releaseKeys, Qt::QueuedConnection);
-    else
-        QMetaObject::invokeMethod(search, &ActionSearch::releaseKeys, Qt::QueuedConnection);
 }
 
 // Languages

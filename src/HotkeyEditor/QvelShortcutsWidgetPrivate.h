@@ -16,7 +16,6 @@
 
 class QAction;
 class QFileSystemWatcher;
-class QKeyEvent;
 
 namespace CUI {
 
@@ -30,7 +29,6 @@ public:
     void build();
     void connectAll();
     void retranslate();
-    bool filterKeyPress(bool typesHotkey, const QKeyEvent &event);
     void saveHeadersSizes();
     void restoreHeadersSizes();
 
@@ -65,7 +63,6 @@ private:
     void filterByHotkeyState(int index);
     void filterByContext(int index);
     void keepCurrentActionInView();
-    void takeKey(bool typesHotkey, const QKeyEvent &event);
 
     QList<QAction *> m_optionActions;
     QList<int> m_savedColumnWidths;
