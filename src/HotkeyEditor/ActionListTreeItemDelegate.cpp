@@ -1,5 +1,6 @@
 #include "ActionListTreeItemDelegate.h"
 
+#include "JoinedHotkeys.h"
 #include "QvelActionItemModel.h"
 #include "QvelShortcutManager.h"
 #include "VelAction.h"
@@ -13,7 +14,6 @@ namespace CUI {
 
 namespace {
 
-const QLatin1String separator(", ");
 constexpr int demiBold = QFont::DemiBold;
 
 const VelAction *actionAt(const QModelIndex &index)
@@ -97,7 +97,7 @@ void ActionListTreeItemDelegate::paintHotkeys(QPainter *painter, const QStyleOpt
     const QString shortcuts = m_manager->getShortcutsFromActionId(id);
     if (shortcuts.isEmpty())
         return;
-    const QStringList base = m_manager->getBaseShortcutsFromActionId(id).split(separator);
+    const QStringList base = JoinedHotkeys::split(m_manager->getBaseShortcutsFromActionId(id));
     const bool isSelected = (option.state & QStyle::State_Selected) != 0;
     const QColor plain = textColor(option);
     const QStyle *style = option.widget != nullptr ? option.widget->style() : QApplication::style();
@@ -108,10 +108,10 @@ void ActionListTreeItemDelegate::paintHotkeys(QPainter *painter, const QStyleOpt
     painter->setFont(option.font);
     painter->setClipRect(option.rect, Qt::IntersectClip);
     bool isFirst = true;
-    for (const QString &shortcut : shortcuts.split(separator)) {
+    for (const QString &shortcut : JoinedHotkeys::split(shortcuts)) {
         QString text = shortcut;
         if (!isFirst)
-            text.prepend(separator);
+            text.prepend(JoinedHotkeys::separator);
         isFirst = false;
         // On the highlight, only its own colour is sure to be readable.
         const QColor color = isSelected ? QColor() : hotkeyColor(id, shortcut, base);

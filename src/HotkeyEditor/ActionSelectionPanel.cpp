@@ -6,7 +6,7 @@
 #include "FocusWithin.h"
 #include "HotkeyEditorForm.h"
 #include "HotkeyField.h"
-#include "HotkeyText.h"
+#include "JoinedHotkeys.h"
 #include "QvelActionItem.h"
 #include "QvelActionItemModel.h"
 #include "QvelAssignedShortcutsScrollArea.h"
@@ -225,7 +225,7 @@ void ActionSelectionPanel::assign()
 bool ActionSelectionPanel::isFull() const
 {
     const QString hotkeys = m_manager->getShortcutsFromActionId(m_currentAction);
-    return HotkeyText::split(hotkeys).size() >= QShortcutsList::ShortcutLimitPerAction;
+    return JoinedHotkeys::split(hotkeys).size() >= QShortcutsList::ShortcutLimitPerAction;
 }
 
 void ActionSelectionPanel::reportFullList()

@@ -2,7 +2,7 @@
 
 #include "ActionListTreeItemDelegate.h"
 #include "FocusWithin.h"
-#include "HotkeyText.h"
+#include "JoinedHotkeys.h"
 #include "QvelAssignedShortcutListItem.h"
 #include "QvelAssignedShortcutsScrollArea.h"
 #include "QvelShortcutManager.h"
@@ -46,7 +46,7 @@ AssignedHotkeyRows::AssignedHotkeyRows(QvelAssignedShortcutsScrollArea *scrollAr
 void AssignedHotkeyRows::show(const ActionIdentifier &action)
 {
     clear();
-    for (const QString &hotkey : HotkeyText::split(m_manager->getShortcutsFromActionId(action)))
+    for (const QString &hotkey : JoinedHotkeys::split(m_manager->getShortcutsFromActionId(action)))
         addAssigned(action, hotkey);
 }
 
@@ -69,7 +69,7 @@ void AssignedHotkeyRows::addAssigned(const ActionIdentifier &action, const QStri
     remove(hotkey);
     removeSeparatorWithoutRows();
     auto *row = new QvelAssignedShortcutListItem(hotkey, true, m_scrollArea->widget());
-    const QStringList base = HotkeyText::split(m_manager->getBaseShortcutsFromActionId(action));
+    const QStringList base = JoinedHotkeys::split(m_manager->getBaseShortcutsFromActionId(action));
     const QColor color = m_colors->hotkeyColor(action, hotkey, base);
     if (color.isValid())
         row->setTextColor(color);
@@ -174,7 +174,7 @@ bool AssignedHotkeyRows::agreeWithStore(const ActionIdentifier &action) const
         if (row->isAssigned())
             shown << row->shortcut();
     }
-    const QStringList held = HotkeyText::split(m_manager->getShortcutsFromActionId(action));
+    const QStringList held = JoinedHotkeys::split(m_manager->getShortcutsFromActionId(action));
     return shown == QSet<QString>(held.begin(), held.end());
 }
 

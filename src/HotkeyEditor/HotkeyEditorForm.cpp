@@ -1,9 +1,9 @@
 #include "HotkeyEditorForm.h"
 
+#include "EditorText.h"
 #include "QvelAssignedShortcutsScrollArea.h"
 #include "QvelPresetComboBox.h"
 
-#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -68,11 +68,6 @@ QComboBox *makeFilterComboBox(const char *name)
     comboBox->setMinimumWidth(100);
     comboBox->setMaximumWidth(420);
     return comboBox;
-}
-
-QString text(const char *sourceText)
-{
-    return QCoreApplication::translate("QvelShortcutsWidget", sourceText);
 }
 
 } // namespace
@@ -287,34 +282,36 @@ void HotkeyEditorForm::setTabOrder()
 
 void HotkeyEditorForm::retranslate(QWidget *editor)
 {
-    editor->setWindowTitle(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "QvelShortcutsWidget")));
-    savePresetButton->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save")));
-    savePresetButton->setToolTip(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save changes...")));
-    hotkeySetLabel->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Hotkey Set:")));
-    presetOptionsButton->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "...")));
+    editor->setWindowTitle(
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "QvelShortcutsWidget")));
+    savePresetButton->setText(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save")));
+    savePresetButton->setToolTip(
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save changes...")));
+    hotkeySetLabel->setText(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Hotkey Set:")));
+    presetOptionsButton->setText(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "...")));
     presetOptionsButton->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save, load...")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save, load...")));
     presetOptionsButton->setAccessibleName(presetOptionsButton->toolTip());
     hotkeySetComboBox->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Change the active...")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Change the active...")));
     hotkeyFilterComboBox->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Filter the list... assigned")));
-    groupLabel->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Group:")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Filter the list... assigned")));
+    groupLabel->setText(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Group:")));
     contextComboBox->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Filter the list...context")));
-    filterLabel->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Filter:")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Filter the list...context")));
+    filterLabel->setText(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Filter:")));
     searchLineEdit->setText(QString());
     searchLineEdit->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Press keys and modifiers...")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Press keys and modifiers...")));
     searchLineEdit->setPlaceholderText(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Type to search...")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Type to search...")));
     searchLineEdit->setAccessibleName(searchLineEdit->placeholderText());
-    hotkeyRadioButton->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Hotkeys")));
+    hotkeyRadioButton->setText(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Hotkeys")));
     hotkeyRadioButton->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Search will be... hotkey")));
-    actionRadioButton->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Actions")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Search will be... hotkey")));
+    actionRadioButton->setText(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Actions")));
     actionRadioButton->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Search will be... action")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Search will be... action")));
     keyActionsTreeView->setAccessibleName(actionRadioButton->text());
     retranslateSelection();
 }
@@ -322,32 +319,34 @@ void HotkeyEditorForm::retranslate(QWidget *editor)
 void HotkeyEditorForm::retranslateSelection()
 {
     selectedActionLabel->setText(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "No action selected")));
-    actionDescriptionLabel->setText(text(QT_TRANSLATE_NOOP(
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "No action selected")));
+    actionDescriptionLabel->setText(editorText(QT_TRANSLATE_NOOP(
             "QvelShortcutsWidget", "Select an action in the table on the left to edit its "
                                    "hotkeys")));
-    newHotkeysGroupBox->setTitle(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Hotkeys")));
-    shortcutLineEdit->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Type new hotkey...")));
+    newHotkeysGroupBox->setTitle(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Hotkeys")));
+    shortcutLineEdit->setText(
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Type new hotkey...")));
     shortcutLineEdit->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Press keys and... assign")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Press keys and... assign")));
     shortcutLineEdit->setPlaceholderText(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Press keys...")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Press keys...")));
     shortcutLineEdit->setAccessibleName(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Type new hotkey...")));
-    assignShortcutButton->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Assign")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Type new hotkey...")));
+    assignShortcutButton->setText(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Assign")));
     assignShortcutButton->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Assigns the hotkey...")));
-    undoRemoveButton->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Undo")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Assigns the hotkey...")));
+    undoRemoveButton->setText(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Undo")));
     undoRemoveButton->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Reassign the hotkey...")));
-    successRemoveLabel->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Removed from:")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Reassign the hotkey...")));
+    successRemoveLabel->setText(
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Removed from:")));
     removedFromLabel->setText(QString());
     alreadyAssignedLabel->setText(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Conflicts with:")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Conflicts with:")));
     assignedToLabel->setText(QString());
-    removeShortcutButton->setText(text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Remove")));
+    removeShortcutButton->setText(editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Remove")));
     removeShortcutButton->setToolTip(
-            text(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Removes the assignment...")));
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Removes the assignment...")));
     assignedHotkeysScrollArea->setAccessibleName(newHotkeysGroupBox->title());
 }
 

@@ -2,7 +2,7 @@
 
 #include "HotkeySetDialogs.h"
 #include "HotkeySetFile.h"
-#include "IPathManager.h"
+#include "InstalledPaths.h"
 #include "LastLogLine.h"
 #include "QvelPresetComboBox.h"
 #include "QvelShortcutManager.h"
@@ -20,14 +20,12 @@ namespace {
 
 QString currentSetPath()
 {
-    const IPathManager *paths = IPathManager::get();
-    return paths != nullptr ? paths->getCurrentConfigurationFile(ConfigType::HotkeySet) : QString();
+    return installedPaths().getCurrentConfigurationFile(ConfigType::HotkeySet);
 }
 
 void recordCurrentSet(const QString &path)
 {
-    if (IPathManager *paths = IPathManager::get())
-        paths->setCurrentConfigurationFile(ConfigType::HotkeySet, path);
+    installedPaths().setCurrentConfigurationFile(ConfigType::HotkeySet, path);
 }
 
 // Named as the list names it: shipped sets by the translations of the text in their files.
@@ -41,12 +39,12 @@ Preset presetOf(const QString &path, bool locked, const QString &name)
 // True for a file that the list of sets has, or will have once it is there and valid.
 bool isPlaceOfSets(const QString &path)
 {
-    const IPathManager *paths = IPathManager::get();
+    const IPathManager &paths = installedPaths();
     const QFileInfo file(path);
-    if (paths == nullptr || file.suffix().compare(QLatin1String("hsx"), Qt::CaseInsensitive) != 0)
+    if (file.suffix().compare(QLatin1String("hsx"), Qt::CaseInsensitive) != 0)
         return false;
     for (const QString &directory :
-         {paths->getDefaultPresetDirectory(), paths->getUserPresetDirectory()}) {
+         {paths.getDefaultPresetDirectory(), paths.getUserPresetDirectory()}) {
         if (!directory.isEmpty() && file.dir() == QDir(directory))
             return true;
     }
@@ -288,10 +286,7 @@ bool HotkeySetCommands::fileNotFoundDoUserPrompt(const Preset &preset, bool *res
 Preset HotkeySetCommands::resetToDefault(const Preset &missing)
 {
     unmarkModified(true);
-    const IPathManager *paths = IPathManager::get();
-    const QString path = paths != nullptr
-                                 ? paths->getDefaultConfigurationFile(ConfigType::HotkeySet)
-                                 : QString();
+    const QString path = installedPaths().getDefaultConfigurationFile(ConfigType::HotkeySet);
     const Preset preset = path.isEmpty() ? Preset() : describe(path);
     m_manager->loadShortcutConfiguration(path);
     const QSignalBlocker blocker(m_comboBox);

@@ -2,11 +2,11 @@
 #include "FileAttributes.h"
 #include "HotkeySetCommands.h"
 #include "HotkeySetDialogs.h"
+#include "InstalledPaths.h"
 #include "LastLogLine.h"
 #include "QvelCustomizeDialogHelper.h"
 #include "QvelMessageLog.h"
 #include "QvelShortcutManager.h"
-#include "UserPresetDirectory.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -27,7 +27,7 @@ void HotkeySetCommands::openFileLocation() const
     }
     QString directory = QFileInfo(path).path();
     if (path.isEmpty() || !QFileInfo(directory).isDir())
-        directory = userPresetDirectory();
+        directory = installedPaths().getUserPresetDirectory();
     if (QFileInfo(directory).isDir())
         QDesktopServices::openUrl(QUrl::fromLocalFile(directory));
 }
@@ -43,7 +43,7 @@ void HotkeySetCommands::selectFileForConversion()
 
 void HotkeySetCommands::convertLegacyShortcuts(const QString &path)
 {
-    const QString directory = userPresetDirectory();
+    const QString directory = installedPaths().getUserPresetDirectory();
     if (directory.isEmpty()) { // would be taken for the root directory
         failConversion(path);
         return;

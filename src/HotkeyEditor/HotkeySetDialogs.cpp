@@ -1,8 +1,7 @@
 #include "HotkeySetDialogs.h"
 
 #include "EditorText.h"
-#include "IPathManager.h"
-#include "UserPresetDirectory.h"
+#include "InstalledPaths.h"
 
 #include <QAbstractButton>
 #include <QDesktopServices>
@@ -19,12 +18,6 @@
 namespace CUI::HotkeySetDialogs {
 
 namespace {
-
-QString logFilePath()
-{
-    const IPathManager *paths = IPathManager::get();
-    return paths != nullptr ? paths->getLogFilePath() : QString();
-}
 
 // A message box whose texts are never taken for markup. Its parent may go, and take it along, while
 // it is open.
@@ -181,7 +174,8 @@ void showSaveFailure(QWidget *parent, const QString &path)
                                          "still here.\n"))
                     .arg(QDir::toNativeSeparators(path)),
             QMessageBox::Ok, parent);
-    box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open Log File"), logFilePath());
+    box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open Log File"),
+                    installedPaths().getLogFilePath());
     box.tell();
 }
 
@@ -197,7 +191,8 @@ void showLoadFailure(QWidget *parent, const QString &path, const QString &reason
     box.explain(canBeOpened(path) ? reason
                                   : editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
                                                                  "The file cannot be opened.")));
-    box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open Log File"), logFilePath());
+    box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open Log File"),
+                    installedPaths().getLogFilePath());
     box.tell();
 }
 
@@ -212,7 +207,7 @@ void showConverted(QWidget *parent, const QString &inputName, const QString &out
                     .arg(inputName, outputName),
             QMessageBox::Ok, parent);
     box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open File Location"),
-                    userPresetDirectory());
+                    installedPaths().getUserPresetDirectory());
     box.tell();
 }
 
@@ -226,7 +221,8 @@ void showConversionFailure(QWidget *parent, const QString &inputName)
                                          "for more details."))
                     .arg(inputName),
             QMessageBox::Ok, parent);
-    box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open Log File"), logFilePath());
+    box.offerToOpen(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Open Log File"),
+                    installedPaths().getLogFilePath());
     box.tell();
 }
 
@@ -259,7 +255,7 @@ QString askSaveSetPath(QWidget *parent)
 {
     auto *dialog = new QFileDialog(
             parent, editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save Hotkey Set As")),
-            userPresetDirectory(), hotkeySetFilter());
+            installedPaths().getUserPresetDirectory(), hotkeySetFilter());
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QStringLiteral("hsx"));
     return chosenFile(dialog);
@@ -269,7 +265,7 @@ QString askLoadSetPath(QWidget *parent)
 {
     return askOpenPath(parent,
                        editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Load Hotkey Set")),
-                       hotkeySetFilter(), userPresetDirectory());
+                       hotkeySetFilter(), installedPaths().getUserPresetDirectory());
 }
 
 QString askLegacyPath(QWidget *parent)

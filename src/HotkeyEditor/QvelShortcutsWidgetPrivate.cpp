@@ -1,9 +1,9 @@
 #include "QvelShortcutsWidgetPrivate.h"
 
 #include "EditorText.h"
+#include "InstalledPaths.h"
 #include "QvelAssignedShortcutsScrollArea.h"
 #include "QvelCustomizeDialogHelper.h"
-#include "UserPresetDirectory.h"
 
 #include <VelUtil.h>
 
@@ -102,7 +102,7 @@ void QvelShortcutsWidget::Private::scaleWidths()
 // Until the directory of the user's sets is there, the nearest one above it is watched.
 void QvelShortcutsWidget::Private::watchUserPresets()
 {
-    QString directory = userPresetDirectory();
+    QString directory = installedPaths().getUserPresetDirectory();
     if (directory.isEmpty())
         return;
     while (!QFileInfo(directory).isDir()) {
@@ -122,7 +122,7 @@ void QvelShortcutsWidget::Private::watchUserPresets()
 void QvelShortcutsWidget::Private::followDirectory(const QString &changed)
 {
     watchUserPresets();
-    const QString directory = userPresetDirectory();
+    const QString directory = installedPaths().getUserPresetDirectory();
     if (changed == directory || watcher->directories().contains(directory))
         commands->refreshList();
 }

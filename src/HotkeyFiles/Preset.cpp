@@ -1,7 +1,7 @@
 #include "Preset.h"
 
 #include "FileAttributes.h"
-#include "IPathManager.h"
+#include "InstalledPaths.h"
 #include "PresetMetadata.h"
 
 #include <QCoreApplication>
@@ -12,18 +12,6 @@
 namespace CUI {
 
 namespace {
-
-QString defaultPresetDirectory()
-{
-    const IPathManager *paths = IPathManager::get();
-    return paths != nullptr ? paths->getDefaultPresetDirectory() : QString();
-}
-
-QString userPresetDirectory()
-{
-    const IPathManager *paths = IPathManager::get();
-    return paths != nullptr ? paths->getUserPresetDirectory() : QString();
-}
 
 void scan(const QString &directory, QSet<QString> &listedPaths, QList<Preset> &presets)
 {
@@ -54,7 +42,7 @@ Preset::Preset(const QString &path, bool locked, const QString &name)
       m_customName(!name.isEmpty()),
       m_locked(locked)
 {
-    const QString shipped = defaultPresetDirectory();
+    const QString shipped = installedPaths().getDefaultPresetDirectory();
     m_defaultHotkeySet =
             !shipped.isEmpty() && QDir::cleanPath(path).contains(QDir::cleanPath(shipped));
 }
@@ -82,9 +70,9 @@ QList<Preset> Preset::getPresetList(ConfigType type)
     if (type != ConfigType::HotkeySet)
         return presets;
     QSet<QString> listedPaths;
-    scan(defaultPresetDirectory(), listedPaths, presets);
+    scan(installedPaths().getDefaultPresetDirectory(), listedPaths, presets);
     setPresetFilesToReadOnly(presets);
-    scan(userPresetDirectory(), listedPaths, presets);
+    scan(installedPaths().getUserPresetDirectory(), listedPaths, presets);
     return presets;
 }
 

@@ -1,25 +1,15 @@
 #include "QvelFileMessageLogger.h"
 
-#include "IPathManager.h"
+#include "InstalledPaths.h"
 
 #include <QFile>
 #include <QTextStream>
 
 namespace CUI {
 
-namespace {
-
-QString logFilePath()
-{
-    const IPathManager *paths = IPathManager::get();
-    return paths == nullptr ? QString() : paths->getLogFilePath();
-}
-
-} // namespace
-
 QvelFileMessageLogger::QvelFileMessageLogger(QObject *parent)
     : QObject(parent),
-      m_file(std::make_unique<QFile>(logFilePath())),
+      m_file(std::make_unique<QFile>(installedPaths().getLogFilePath())),
       m_stream(std::make_unique<QTextStream>(m_file.get()))
 {
 }

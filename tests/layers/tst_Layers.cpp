@@ -20,23 +20,25 @@ const struct {
     Layer layer;
     const char *patterns;
 } layerTable[] = {
-        {Values, "src/UiCustomizationsExport.h src/ActionManager/ActionIdentifier.* "
-                 "src/ActionManager/VelAction.* src/ActionManager/VelActionContext.* "
-                 "src/HotkeyFiles/ConfigType.* src/Shortcuts/CaseFoldedText.* "
-                 "src/Shortcuts/KeyNames.* src/Shortcuts/QShortcutsList.* "
-                 "src/Shortcuts/ShortcutTransformation.* src/Shortcuts/OpenSteps.* "
-                 "src/Shortcuts/TransformationCollapser.*"},
-        {Services, "src/ActionManager/ICuiActionManager.* src/HotkeyEditor/HotkeyRecorder.* "
-                   "src/HotkeyFiles/IPathManager.* src/MessageLog/LazyLog.* "
-                   "src/MessageLog/QvelFileMessageLogger.* src/MessageLog/QvelMessageLog.* "
-                   "src/Platform/* src/Translations.cpp"},
+        {Values,
+         "src/UiCustomizationsExport.h src/ActionManager/ActionIdentifier.* "
+         "src/ActionManager/VelAction.* src/ActionManager/VelActionContext.* "
+         "src/HotkeyFiles/ConfigType.* src/Shortcuts/CaseFoldedText.* "
+         "src/Shortcuts/JoinedHotkeys.* src/Shortcuts/KeyNames.* src/Shortcuts/QShortcutsList.* "
+         "src/Shortcuts/ShortcutTransformation.* src/Shortcuts/OpenSteps.* "
+         "src/Shortcuts/TransformationCollapser.*"},
+        {Services,
+         "src/ActionManager/ICuiActionManager.* src/HotkeyEditor/HotkeyRecorder.* "
+         "src/HotkeyFiles/IPathManager.* src/HotkeyFiles/InstalledPaths.* src/MessageLog/LazyLog.* "
+         "src/MessageLog/QvelFileMessageLogger.* src/MessageLog/QvelMessageLog.* "
+         "src/Platform/* src/Translations.cpp"},
         {Codecs, "src/HotkeyFiles/*"},
         {Store, "src/Shortcuts/ShortcutOwnerIndex.* src/Shortcuts/QvelShortcutManager*"},
         {Widgets, "src/Models/ActionBindings.* src/Models/ActionReach.* "
                   "src/Models/AdoptedActions.* src/Models/QvelActionBinder.* "
                   "src/Models/QvelMenusWidget.* src/Models/WindowActions.*"},
         {Models, "src/Models/*"},
-        {Widgets, "src/HotkeyEditor/* src/MessageLog/QvelMessageLogWidget.*"},
+        {Widgets, "src/HotkeyEditor/* src/KeyCapture/* src/MessageLog/QvelMessageLogWidget.*"},
         {Hosts, "examples/*/* tools/*/*"},
 };
 

@@ -5,7 +5,7 @@
 namespace CUI {
 
 /// The hotkeys of one action as one text, as tables and files have them.
-namespace HotkeyText {
+namespace JoinedHotkeys {
 
 const QLatin1String separator(", ");
 
@@ -20,5 +20,5 @@ inline QStringList split(const QString &text)
     return text.isEmpty() ? QStringList() : text.split(separator);
 }
 
-} // namespace HotkeyText
+} // namespace JoinedHotkeys
 } // namespace CUI
