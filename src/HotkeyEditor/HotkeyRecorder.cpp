@@ -1,6 +1,7 @@
 #include "HotkeyRecorder.h"
 
 #include "NativeKeys.h"
+#include "VirtualKeys.h"
 
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -11,11 +12,6 @@ namespace CUI::HotkeyRecorder {
 namespace {
 
 Q_LOGGING_CATEGORY(keys, "cui.hotkeyeditor.keys")
-
-bool isBetween(int code, int first, int last)
-{
-    return code >= first && code <= last;
-}
 
 void writeToLog(const QKeyEvent &event)
 {
@@ -47,8 +43,8 @@ int modifierOf(int key)
 int heldModifiers(const QKeyEvent &event, int virtualKey)
 {
     // An event does not always count the key that it reports among the modifiers.
-    constexpr int altKey = 18;
-    const int pressed = virtualKey == altKey ? int{Qt::AltModifier} : modifierOf(event.key());
+    const int pressed =
+            virtualKey == VirtualKeys::alt ? int{Qt::AltModifier} : modifierOf(event.key());
     const int held = static_cast<int>(event.modifiers()) | pressed;
     return held & (int{Qt::ShiftModifier} | int{Qt::ControlModifier} | int{Qt::AltModifier});
 }
@@ -56,11 +52,9 @@ int heldModifiers(const QKeyEvent &event, int virtualKey)
 /// The key itself, not what Shift and the like make of it.
 int unshiftedKey(const QKeyEvent &event, int virtualKey)
 {
-    if (isBetween(virtualKey, '0', '9') || isBetween(virtualKey, 'A', 'Z'))
+    if (VirtualKeys::isDigitOrLetter(virtualKey))
         return virtualKey;
-    constexpr int firstPunctuation = 186;
-    constexpr int lastPunctuation = 223;
-    if (isBetween(virtualKey, firstPunctuation, lastPunctuation)) {
+    if (VirtualKeys::isPunctuation(virtualKey)) {
         const int character = NativeKeys::unshiftedCharacterOf(virtualKey, event);
         if (character != 0)
             return character;
@@ -79,16 +73,6 @@ int keyOf(const QKeyEvent &event, int virtualKey)
     default:
         return key;
     }
-}
-
-int keypadModifierOf(int virtualKey)
-{
-    constexpr int firstOnKeypad = 96;
-    constexpr int lastOnKeypad = 111;
-    constexpr int separator = 108;
-    const bool isOnKeypad =
-            isBetween(virtualKey, firstOnKeypad, lastOnKeypad) && virtualKey != separator;
-    return isOnKeypad ? int{Qt::KeypadModifier} : 0;
 }
 
 bool leadsOut(int key, int modifiers)
@@ -124,7 +108,9 @@ Capture capture(const QKeyEvent &event)
     Capture result;
     result.modifiers = heldModifiers(event, virtualKey);
     if (isHotkey(key, result.modifiers))
-        result.combination = key | result.modifiers | keypadModifierOf(virtualKey);
+        result.combination = key | result.modifiers;
+    if (result.combination != 0 && VirtualKeys::isOnKeypad(virtualKey))
+        result.combination |= int{Qt::KeypadModifier};
     return result;
 }
 

@@ -14,7 +14,7 @@ namespace NativeKeys {
 int virtualKeyOf(const QKeyEvent &event);
 
 /// The character that the key of @p event types without modifiers, as a Qt key code; 0 when it is
-/// not known. @p virtualKey is that key's, one of the punctuation keys 186 to 223.
+/// not known. @p virtualKey is that key's, one for which VirtualKeys::isPunctuation() is true.
 int unshiftedCharacterOf(int virtualKey, const QKeyEvent &event);
 
 } // namespace NativeKeys

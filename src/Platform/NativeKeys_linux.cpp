@@ -1,6 +1,7 @@
 #include "NativeKeys.h"
 
 #include "KeyNames.h"
+#include "VirtualKeys.h"
 
 #include <QChar>
 #include <QGuiApplication>
@@ -91,14 +92,6 @@ constexpr quint32 leftAltKey = 64;
 constexpr quint32 rightAltKey = 108;
 constexpr quint32 keypadDecimalKey = 91;
 constexpr quint32 keyBesideLeftShift = 94;
-
-// Virtual keys without a character of their own.
-constexpr int vkMenu = 0x12;
-constexpr int vkNumpad0 = 0x60;
-constexpr int vkMultiply = 0x6A;
-constexpr int vkDecimal = 0x6E;
-constexpr int vkOem8 = 0xDF;
-constexpr int vkOem102 = 0xE2;
 
 struct DeadKey {
     xkb_keysym_t symbol;
@@ -226,11 +219,11 @@ int keypadKeyOf(const QKeyEvent &event)
     // Its symbol is a point or a comma, the way the country writes numbers.
     if (event.nativeScanCode() == keypadDecimalKey
         && (symbol == XKB_KEY_KP_Decimal || symbol == XKB_KEY_KP_Separator))
-        return vkDecimal;
+        return VirtualKeys::keypadDecimal;
     if (isBetween(symbol, XKB_KEY_KP_0, XKB_KEY_KP_9))
-        return vkNumpad0 + static_cast<int>(symbol - XKB_KEY_KP_0);
+        return VirtualKeys::keypad0 + static_cast<int>(symbol - XKB_KEY_KP_0);
     if (isBetween(symbol, XKB_KEY_KP_Multiply, XKB_KEY_KP_Divide))
-        return vkMultiply + static_cast<int>(symbol - XKB_KEY_KP_Multiply);
+        return VirtualKeys::keypadMultiply + static_cast<int>(symbol - XKB_KEY_KP_Multiply);
     return 0;
 }
 
@@ -240,9 +233,9 @@ int punctuationKeyOf(quint32 character, quint32 keyCode)
     if (const int virtualKey = KeyNames::keyToOEM(static_cast<int>(character)); virtualKey != 0)
         return virtualKey;
     if (keyCode == keyBesideLeftShift)
-        return vkOem102;
+        return VirtualKeys::besideLeftShift;
     const int virtualKey = KeyNames::keyToOEM(static_cast<int>(usCharacterOn(keyCode)));
-    return virtualKey != 0 ? virtualKey : vkOem8;
+    return virtualKey != 0 ? virtualKey : VirtualKeys::lastPunctuation;
 }
 
 /// The virtual key of a key that types a character.
@@ -269,7 +262,7 @@ int virtualKeyOf(const QKeyEvent &event)
     if (isDigit(usCharacter)) // many layouts need Shift for digits
         return static_cast<int>(usCharacter);
     if (isAlt(event))
-        return vkMenu;
+        return VirtualKeys::alt;
     if (const int virtualKey = keypadKeyOf(event); virtualKey != 0)
         return virtualKey;
     return typingKeyOf(event, layoutAt(event).get());

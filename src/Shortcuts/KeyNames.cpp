@@ -1,5 +1,7 @@
 #include "KeyNames.h"
 
+#include "VirtualKeys.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -57,21 +59,21 @@ constexpr std::array<KeyPair, 43> namedKeys{{
         {Qt::Key_F10, 0x79},
         {Qt::Key_F11, 0x7A},
         {Qt::Key_F12, 0x7B},
-        {Qt::Key_0 + keypad, 0x60},
-        {Qt::Key_1 + keypad, 0x61},
-        {Qt::Key_2 + keypad, 0x62},
-        {Qt::Key_3 + keypad, 0x63},
-        {Qt::Key_4 + keypad, 0x64},
-        {Qt::Key_5 + keypad, 0x65},
-        {Qt::Key_6 + keypad, 0x66},
-        {Qt::Key_7 + keypad, 0x67},
-        {Qt::Key_8 + keypad, 0x68},
-        {Qt::Key_9 + keypad, 0x69},
-        {Qt::Key_Asterisk + keypad, 0x6A},
-        {Qt::Key_Plus + keypad, 0x6B},
-        {Qt::Key_Minus + keypad, 0x6D},
-        {Qt::Key_Period + keypad, 0x6E},
-        {Qt::Key_Slash + keypad, 0x6F},
+        {Qt::Key_0 + keypad, VirtualKeys::keypad0},
+        {Qt::Key_1 + keypad, VirtualKeys::keypad0 + 1},
+        {Qt::Key_2 + keypad, VirtualKeys::keypad0 + 2},
+        {Qt::Key_3 + keypad, VirtualKeys::keypad0 + 3},
+        {Qt::Key_4 + keypad, VirtualKeys::keypad0 + 4},
+        {Qt::Key_5 + keypad, VirtualKeys::keypad0 + 5},
+        {Qt::Key_6 + keypad, VirtualKeys::keypad0 + 6},
+        {Qt::Key_7 + keypad, VirtualKeys::keypad0 + 7},
+        {Qt::Key_8 + keypad, VirtualKeys::keypad0 + 8},
+        {Qt::Key_9 + keypad, VirtualKeys::keypad0 + 9},
+        {Qt::Key_Asterisk + keypad, VirtualKeys::keypadMultiply},
+        {Qt::Key_Plus + keypad, VirtualKeys::keypadAdd},
+        {Qt::Key_Minus + keypad, VirtualKeys::keypadSubtract},
+        {Qt::Key_Period + keypad, VirtualKeys::keypadDecimal},
+        {Qt::Key_Slash + keypad, VirtualKeys::keypadDivide},
 }};
 
 constexpr std::array<KeyPair, 12> punctuationKeys{{
@@ -79,14 +81,14 @@ constexpr std::array<KeyPair, 12> punctuationKeys{{
         {'-', 0xBD},
         {'.', 0xBE},
         {'/', 0xBF},
-        {';', 0xBA},
+        {';', VirtualKeys::firstPunctuation},
         {'=', 0xBB},
         {'`', 0xC0},
         {'[', 0xDB},
         {'\\', 0xDC},
         {']', 0xDD},
         {'\'', 0xDE},
-        {Qt::Key_section, 0xDF},
+        {Qt::Key_section, VirtualKeys::lastPunctuation},
 }};
 
 template <std::size_t Size>

@@ -25,7 +25,8 @@ const struct {
          "src/ActionManager/VelAction.* src/ActionManager/VelActionContext.* "
          "src/HotkeyFiles/ConfigType.* src/Shortcuts/CaseFoldedText.* "
          "src/Shortcuts/JoinedHotkeys.* src/Shortcuts/KeyNames.* src/Shortcuts/QShortcutsList.* "
-         "src/Shortcuts/ShortcutTransformation.* src/Shortcuts/OpenSteps.* "
+         "src/Shortcuts/ShortcutTransformation.* src/Shortcuts/VirtualKeys.* "
+         "src/Shortcuts/OpenSteps.* "
          "src/Shortcuts/TransformationCollapser.*"},
         {Services,
          "src/ActionManager/ICuiActionManager.* src/HotkeyEditor/HotkeyRecorder.* "
