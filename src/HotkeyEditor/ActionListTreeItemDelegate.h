@@ -13,8 +13,8 @@ namespace CUI {
 class QvelShortcutManager;
 class VelAction;
 
-/// Paints the table of actions: hotkeys in the colours that tell where they come from, and actions
-/// that work while their hotkey is held in demi-bold.
+/// Paints the table of actions: each hotkey in the colour of its origin, and actions that are
+/// active while their hotkey is held in demi-bold.
 class ActionListTreeItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

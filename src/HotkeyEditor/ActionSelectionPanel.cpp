@@ -133,7 +133,7 @@ void ActionSelectionPanel::clearSelection()
     m_currentAction = {};
     if (QItemSelectionModel *selection = m_form.keyActionsTreeView->selectionModel())
         selection->clear();
-    showRow({}); // a model that was reset has left nothing to clear
+    showRow({}); // after a reset of the model the selection was empty already
 }
 
 void ActionSelectionPanel::resetSelectedActionFields()
@@ -230,7 +230,7 @@ bool ActionSelectionPanel::isFull() const
 
 void ActionSelectionPanel::reportFullList()
 {
-    // The editor's window is its parent, and destroys it when the host closes the editor now.
+    // Destroyed with the editor's window when the host closes that while the box is open.
     const QPointer<QMessageBox> box = new QMessageBox(
             QMessageBox::Information,
             editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Too Many Hotkeys")),
@@ -346,7 +346,7 @@ void ActionSelectionPanel::showAlreadyAssignedControls()
     m_form.removeShortcutButton->show();
     m_form.removeShortcutButton->setEnabled(true);
     m_form.hotkeyListSeparatorLine->setVisible(!m_rows->isEmpty());
-    // The focus is in the field, and labels beside it are not read out by themselves.
+    // The field has the focus, and a screen reader does not read the labels beside it.
     m_form.shortcutLineEdit->setAccessibleDescription(m_form.alreadyAssignedLabel->text()
                                                       + QLatin1Char(' ')
                                                       + m_form.assignedToLabel->text());

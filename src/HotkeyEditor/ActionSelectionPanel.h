@@ -86,7 +86,7 @@ private:
     AssignedHotkeyRows *m_rows;
 
     ActionIdentifier m_currentAction;
-    // What Remove took from whom, kept for Undo.
+    // What Remove has taken from which action, for Undo.
     ActionIdentifier m_removedFromId;
     QString m_removedFromName;
     QString m_removedHotkey;

@@ -89,23 +89,23 @@ void AssignedHotkeyRows::insert(int index, QvelAssignedShortcutListItem *row, Si
 {
     const QString hotkey = row->shortcut();
     connect(row->button(), &QPushButton::clicked, this,
-            [this, hotkey, clicked] { ask(hotkey, clicked); });
+            [this, hotkey, clicked] { emitKeepingFocus(hotkey, clicked); });
     layout()->insertWidget(index, row);
     row->show();
     chainTabOrder();
 }
 
-// The answer may destroy the editor.
-void AssignedHotkeyRows::ask(const QString &hotkey, Signal signal)
+// A slot may destroy the editor.
+void AssignedHotkeyRows::emitKeepingFocus(const QString &hotkey, Signal signal)
 {
     const QPointer<AssignedHotkeyRows> self(this);
-    const QvelAssignedShortcutListItem *asking = rowOf(hotkey);
-    const bool hadFocus = asking != nullptr && hasFocusWithin(asking);
+    const QvelAssignedShortcutListItem *clicked = rowOf(hotkey);
+    const bool hadFocus = clicked != nullptr && hasFocusWithin(clicked);
     Q_EMIT(this->*signal)(hotkey);
     if (self.isNull() || !hadFocus)
         return;
-    if (const QvelAssignedShortcutListItem *answer = rowOf(hotkey))
-        answer->button()->setFocus(Qt::OtherFocusReason);
+    if (const QvelAssignedShortcutListItem *replacement = rowOf(hotkey))
+        replacement->button()->setFocus(Qt::OtherFocusReason);
 }
 
 void AssignedHotkeyRows::remove(const QString &hotkey)
@@ -154,7 +154,7 @@ void AssignedHotkeyRows::chainTabOrder()
     }
 }
 
-// By itself the focus would move to whatever comes next, and the next key would remove another
+// The toolkit would move the focus to the next widget, where the next key could remove another
 // hotkey or choose another set.
 void AssignedHotkeyRows::takeFocusFrom(const QWidget *widget)
 {

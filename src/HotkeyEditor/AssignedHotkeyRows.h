@@ -19,8 +19,8 @@ class QvelShortcutManager;
 /// The rows of one action's hotkeys: those that are assigned, newest on top, then a separator and
 /// those that were just removed.
 ///
-/// The buttons of the rows only ask; whoever answers edits the store and then adds or removes rows.
-/// A row that had the keyboard focus hands it to the row that takes its place.
+/// A click on a row's button only emits a signal; its receiver edits the store and then adds or
+/// removes rows. When the button had the keyboard focus, the new row of the hotkey gets it.
 class AssignedHotkeyRows : public QObject
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ private:
     using Signal = void (AssignedHotkeyRows::*)(const QString &);
 
     void insert(int index, QvelAssignedShortcutListItem *row, Signal clicked);
-    void ask(const QString &hotkey, Signal signal);
+    void emitKeepingFocus(const QString &hotkey, Signal signal);
     void addSeparator();
     void removeSeparatorWithoutRows();
     void chainTabOrder();

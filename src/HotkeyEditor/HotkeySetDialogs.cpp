@@ -19,8 +19,8 @@ namespace CUI::HotkeySetDialogs {
 
 namespace {
 
-// A message box whose texts are never taken for markup. Its parent may go, and take it along, while
-// it is open.
+// A message box that shows its texts as plain text. It may be destroyed, with its parent, while it
+// is open.
 class PlainMessageBox
 {
 public:
@@ -34,7 +34,7 @@ public:
     PlainMessageBox(const PlainMessageBox &) = delete;
     PlainMessageBox &operator=(const PlainMessageBox &) = delete;
 
-    // QMessageBox::NoButton when the box has gone with its parent.
+    // QMessageBox::NoButton when the box was destroyed.
     QMessageBox::StandardButton ask(QMessageBox::StandardButton defaultOne)
     {
         m_box->setDefaultButton(defaultOne);
@@ -76,7 +76,7 @@ QString resetLabel()
     return editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Reset"));
 }
 
-// Runs and deletes the dialog, whose parent may go, and take it along, while it is open.
+// Runs and deletes the dialog, which may be destroyed, with its parent, while it is open.
 QString chosenFile(QFileDialog *dialog)
 {
     const QPointer<QFileDialog> alive(dialog);

@@ -9,7 +9,7 @@ namespace CUI {
 
 /// The questions and messages of the hotkey set commands. Names from files are shown as plain text.
 ///
-/// @p parent may be deleted while a dialog is open: the answer is then QMessageBox::NoButton, false
+/// @p parent may be deleted while a dialog is open; the result is then QMessageBox::NoButton, false
 /// or an empty path.
 namespace HotkeySetDialogs {
 
@@ -23,13 +23,13 @@ bool confirmReplacement(QWidget *parent, const QString &fileName);
 void showLockedWarning(QWidget *parent);
 /// Offers to open the log file when there is one.
 void showSaveFailure(QWidget *parent, const QString &path);
-/// The same; @p reason comes from the log and may be empty. That the file cannot be opened, which
-/// the log does not tell, is said in its place.
+/// The same; @p reason comes from the log and may be empty. When the file cannot be opened, which
+/// is not logged, the box says so instead.
 void showLoadFailure(QWidget *parent, const QString &path, const QString &reason);
 /// Offers to open the folder of the user's sets.
 void showConverted(QWidget *parent, const QString &inputName, const QString &outputName);
 void showConversionFailure(QWidget *parent, const QString &inputName);
-/// @p title as it stands in the source.
+/// @p title is the source text.
 void showValidation(QWidget *parent, const char *title, bool valid);
 
 /// \name File dialogs

@@ -53,7 +53,7 @@ void QvelAssignedShortcutListItem::retranslate()
                                 : QStringLiteral("<b>%1</b><br>%2")
                                           .arg(hotkey.toHtmlEscaped(),
                                                tr("Successfully removed").toHtmlEscaped()));
-    // The same button stands in every row: say of which hotkey it speaks.
+    // Every row has the same button; a screen reader needs the hotkey as well.
     m_button->setAccessibleName(m_button->text() + QLatin1Char(' ') + hotkey);
 }
 

@@ -80,7 +80,7 @@ int widthOf(const QFontMetricsF &metrics, const QString &text)
     return qCeil(metrics.horizontalAdvance(text));
 }
 
-/// What stands in the edit field, and where in a layout from left to right.
+/// The contents of the edit field, with their places in a left-to-right layout.
 struct Content {
     QRect icon;
     QRect name;
@@ -118,7 +118,7 @@ public:
     QIcon lockIcon = QApplication::style()->standardIcon(QStyle::SP_VistaShield);
     QList<Preset> notInPathPresets;
 
-    /// What stands behind the name of the current set; empty without unsaved changes.
+    /// The text after the name of the current set; empty without unsaved changes.
     QString marker() const
     {
         return modified ? QvelPresetComboBox::tr("[Unsaved Changes*]") : QString();
@@ -202,7 +202,7 @@ int QvelPresetComboBox::setCurrentPreset(const Preset &preset)
 void QvelPresetComboBox::modifyCurrentPreset(const Preset &preset)
 {
     const int index = currentIndex();
-    setItemData(index, QVariant()); // makes what follows a change, even to an equal preset
+    setItemData(index, QVariant()); // the next line is then a change even to an equal preset
     setItemData(index, QVariant::fromValue(preset));
     setItemText(index, preset.name());
 }
@@ -227,7 +227,7 @@ void QvelPresetComboBox::setUserModifiedColor(const QColor &color)
 void QvelPresetComboBox::setCurPresetModified(bool modified)
 {
     d->modified = modified;
-    setAccessibleDescription(d->marker()); // what is only painted is read out to nobody
+    setAccessibleDescription(d->marker()); // a screen reader does not see what is painted
     update();
 }
 

@@ -15,10 +15,10 @@ namespace CUI {
 /// The chooser of hotkey sets.
 ///
 /// Each entry shows the name of a Preset and carries the preset in Qt::UserRole, its path in
-/// Qt::ToolTipRole and, when it cannot be written, the lock icon. Shipped sets stand above the
+/// Qt::ToolTipRole and, when it cannot be written, the lock icon. Shipped sets come before the
 /// others; within each kind the names are in the order of the user's language. Names and paths are
-/// shown as plain text, whatever is in them. While the current set has unsaved changes, a marker
-/// stands behind its name.
+/// always shown as plain text. While the current set has unsaved changes, a marker follows its
+/// name.
 ///
 /// Presets are looked up by their paths; letter case counts. Signals are those of QComboBox.
 /// Sorting moves entries without a signal: the current entry stays current, at another index. The
@@ -34,7 +34,7 @@ public:
     explicit QvelPresetComboBox(QWidget *parent = nullptr);
     ~QvelPresetComboBox() override;
 
-    /// Lists the presets of that type anew, as Preset::getPresetList() finds them, and those that
+    /// Lists the presets of that type again, as Preset::getPresetList() finds them, and those that
     /// addNotInPathPreset() has added, even one that is listed already.
     ///
     /// With @p keepCurrent the current preset stays in the list and selected, whether or not it is

@@ -84,7 +84,7 @@ void QvelShortcutsWidget::reloadActionsList()
     d->model->loadActionsToModel();
     d->restoreHeadersSizes();
     if (!selected.isEmpty() && d->panel->currentAction() == nullptr)
-        clearSelection(); // it is gone
+        clearSelection(); // it is no longer registered
     else
         setCurrentAction(selected, false);
 }

@@ -21,17 +21,17 @@ class VelAction;
 ///
 /// On the left the actions, to be searched, filtered and sorted; on the right the selected action
 /// with its hotkeys, the field in which a new one is typed, and its conflict; on top the hotkey set
-/// with the commands that save, load, reset and import sets. Every edit goes to the store, and the
-/// widget shows what the store announces. While a hotkey is being typed, no shortcut of the host
-/// fires; Ctrl+Tab and Ctrl+Shift+Tab lead out of the field, which takes all other keys. In a
-/// dialog, Return is left to the host's buttons.
+/// with the commands that save, load, reset and import sets. Every edit is made in the store, and
+/// the widget follows the signals of the store. While a hotkey is being typed, no shortcut of the
+/// host fires; Ctrl+Tab and Ctrl+Shift+Tab move the focus out of the field, which takes all other
+/// keys. In a dialog, Return activates the host's default button.
 ///
-/// The host places it in a dialog of its own, and calls maybeSaveChanges() before it closes that.
-/// It may be deleted while one of its dialogs is open (only not under the question of a file dialog
-/// itself, whether to replace a file): the call that asked then returns, false where it returns
-/// anything. The list of sets follows the directory of the user's sets that the installed
-/// IPathManager names when the widget is made, also when that appears only later. Its texts follow
-/// a change of the language.
+/// The host places it in a dialog, and calls maybeSaveChanges() before it closes that. The widget
+/// may be deleted while one of its dialogs is open, except while a file dialog asks whether to
+/// replace a file: the function that opened the dialog then returns, with false if it has a result.
+/// The list of sets follows the directory of the user's sets, which the installed IPathManager
+/// names when the widget is created and which may be created later. The texts follow a change of
+/// the language.
 class CUI_EXPORT QvelShortcutsWidget : public QWidget
 {
     Q_OBJECT
@@ -68,8 +68,8 @@ public:
     void setHotkeyFilter(int index);
     /// Sorts the list by that column, in ascending order.
     void sortActionTreeByColumn(QvelActionItemModel::ActionTreeColumns column);
-    /// Reads the actions of the registry anew. Column widths stay, and so does the selected action
-    /// unless it is gone; then none is selected.
+    /// Reads the actions of the registry again. Column widths stay, and so does the selected
+    /// action; when it is no longer registered, none is selected.
     void reloadActionsList();
     /// @}
 
@@ -83,7 +83,7 @@ public:
     VelAction *currentAction() const;
     /// Leaves no action selected.
     void clearSelection();
-    /// Forgets the hotkey that is being typed, and reads the assigned ones anew.
+    /// Forgets the hotkey that is being typed, and reads the assigned ones again.
     void resetSelectedActionFields();
     /// @}
 
@@ -102,7 +102,7 @@ public Q_SLOTS:
     /// Asks whether unsaved edits are to be dropped, whether or not there are any. False when the
     /// user cancels.
     ///
-    /// When the file of the current set has vanished, this and, with unsaved edits,
+    /// When the file of the current set no longer exists, this and, with unsaved edits,
     /// maybeSaveChanges() ask instead whether the hotkeys are to be saved elsewhere or the default
     /// set is to be loaded. False when the user cancels or they cannot be saved.
     bool maybeDiscardChanges();
@@ -113,9 +113,9 @@ public Q_SLOTS:
     /// the current one. Emits legacyHotkeySetConverted() unless the user cancels or the set of that
     /// name is locked.
     void selectFileForConversion();
-    /// Asks for a file and tells whether it is a valid base hotkey file.
+    /// Asks for a file and reports whether it is a valid base hotkey file.
     void validateShortcutFile();
-    /// Asks for a file and tells whether it is a valid hotkey set.
+    /// Asks for a file and reports whether it is a valid hotkey set.
     void validateShortcutTransformationFile();
     /// Asks for a place, saves the edits there as a new set and makes it the current one.
     void saveShortcutsTransformation();
@@ -141,7 +141,7 @@ public Q_SLOTS:
     /// Shows the current set as modified. Emits presetModified() if it was not.
     void markModified();
     /// Shows the current set as unmodified. Emits presetModified() if it was not. With
-    /// @p invalidate the colours of all rows are drawn anew.
+    /// @p invalidate all rows are repainted.
     void unmarkModified(bool invalidate);
 
 Q_SIGNALS:
@@ -150,7 +150,7 @@ Q_SIGNALS:
     void presetModified(bool modified);
     /// The edits have been saved to a set.
     void modificationsSaved();
-    /// An import has ended. @p success tells whether the file was converted.
+    /// An import has ended. @p success is true when the file was converted.
     void legacyHotkeySetConverted(bool success);
 
 protected:

@@ -99,7 +99,7 @@ void QvelShortcutsWidget::Private::scaleWidths()
     }
 }
 
-// Until the directory of the user's sets is there, the nearest one above it is watched.
+// While the directory of the user's sets does not exist, its nearest parent is watched.
 void QvelShortcutsWidget::Private::watchUserPresets()
 {
     QString directory = installedPaths().getUserPresetDirectory();
@@ -151,7 +151,7 @@ void QvelShortcutsWidget::Private::setUpTree()
     proxy->setSortCaseSensitivity(Qt::CaseInsensitive);
     proxy->setSourceModel(model);
     QTreeView *tree = form.keyActionsTreeView;
-    tree->setUniformRowHeights(true); // all rows are one line; asking each takes long
+    tree->setUniformRowHeights(true); // asking each row for its height is slow
     tree->setModel(proxy);
     tree->setAlternatingRowColors(true);
     tree->setSortingEnabled(true);
@@ -181,7 +181,7 @@ void QvelShortcutsWidget::Private::setUpFields()
 
 void QvelShortcutsWidget::Private::alignFilterLabels()
 {
-    // The box around the ink is narrower: the first letter would be cut off.
+    // The bounding rectangle of the text is narrower and would cut off the first letter.
     const auto textWidth = [](const QLabel *label) {
         return qCeil(QFontMetricsF(label->font()).horizontalAdvance(label->text()));
     };
@@ -225,7 +225,6 @@ void QvelShortcutsWidget::Private::restoreHeadersSizes()
 
 void QvelShortcutsWidget::Private::connectAll()
 {
-    // What the panel and the set commands tell each other; the editor's own signals come from here.
     connect(commands, &HotkeySetCommands::rowsInvalidated, q, [this] {
         proxy->invalidate();
         model->invalidateAllRows();
@@ -284,7 +283,7 @@ void QvelShortcutsWidget::Private::connectStore()
         panel->updateSelectedActionShortcutList();
         if (transformationDialog != nullptr)
             transformationDialog->refill();
-        panel->hideReassignControls(); // what was removed is back
+        panel->hideReassignControls(); // the removed hotkey is assigned again
         panel->updateAssignedShortcutFields();
     });
     connect(manager, &QvelShortcutManager::shortcutTransformsCollapsed, q, [this] {
@@ -395,7 +394,7 @@ void QvelShortcutsWidget::Private::retranslateFilters()
     form.contextComboBox->setCurrentIndex(context);
 }
 
-// The names of shipped sets and the headers of the table are translated where they are read.
+// The names of shipped sets and the headers of the table are translated when they are set.
 void QvelShortcutsWidget::Private::retranslateLists()
 {
     commands->refreshList();

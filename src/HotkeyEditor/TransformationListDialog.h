@@ -20,7 +20,7 @@ public:
 
     /// The store has recorded a step.
     void followAdded(const ShortcutTransformation &step);
-    /// Lists the recorded steps anew.
+    /// Lists the recorded steps again.
     void refill();
 
 protected:

@@ -15,7 +15,7 @@ namespace CUI {
 /// While it is active, every key press in the edit becomes the hotkey, which the edit shows in the
 /// user's language; no shortcut of the application fires, and nothing is pasted, dropped or
 /// composed. Ctrl+Tab and Ctrl+Shift+Tab move the focus to the next and to the previous widget.
-/// The hotkey is gone as soon as the edit is empty.
+/// The field has no hotkey while the edit is empty.
 class HotkeyField : public QObject
 {
     Q_OBJECT
