@@ -73,7 +73,7 @@ bool Table::ReportContext(const Context &)
 #endif
     std::puts(
             "Times are the shortest of several rounds in which row and rival take turns; those of\n"
-            "loading, listing and collapsing are processor times.\n");
+            "loading and listing are processor times.\n");
     printLine("row", "measured", "rival", "ratio", "limit", "");
     return true;
 }

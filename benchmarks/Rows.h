@@ -21,7 +21,6 @@ void addSchemaRows(Workload &workload);
 void addLoadRows(Workload &workload);
 void addStoreRows(Workload &workload);
 void addEditRows(Workload &workload);
-void addCollapseRows();
 void addPresetRows(Workload &workload);
 void addEditorRows(Workload &workload, Stages &stages);
 void addTypingRows(Stages &stages);

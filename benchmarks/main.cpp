@@ -38,7 +38,6 @@ int main(int argc, char **argv)
     addLoadRows(workload);
     addStoreRows(workload);
     addEditRows(workload);
-    addCollapseRows();
     addPresetRows(workload);
     Stages stages(workload);
     addTypingRows(stages);

@@ -5,8 +5,8 @@
 #include "IPathManager.h"
 #include "LazyLog.h"
 #include "LegacyKeyboardFile.h"
+#include "RecordedSteps.h"
 #include "SaveFileCommit.h"
-#include "TransformationCollapser.h"
 
 #include <QDir>
 #include <QFile>
@@ -78,7 +78,7 @@ bool convert(const QString &in, const QString &out)
         || !readLegacyShortcuts(legacyDefaultFile(), steps, ShortcutTransformation::Unassign))
         return false;
     // What both files have cancels out; the user's additions and removals remain.
-    TransformationCollapser::collapse(steps, 0);
+    RecordedSteps::cancel(steps, 0);
     dropUnwritable(steps);
 
     QSaveFile file(out);

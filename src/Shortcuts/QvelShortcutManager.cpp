@@ -3,10 +3,8 @@
 #include "ICuiActionManager.h"
 #include "KeyNames.h"
 #include "LazyLog.h"
+#include "RecordedSteps.h"
 #include "ShortcutOwnerIndex.h"
-#include "TransformationCollapser.h"
-
-#include <algorithm>
 
 namespace CUI {
 
@@ -37,8 +35,8 @@ QvelShortcutManager::QvelShortcutManager(QObject *parent)
     : QObject(parent),
       currentShortcuts(initialBuckets),
       baseShortcuts(initialBuckets),
-      ownerIndex(std::make_unique<ShortcutOwnerIndex>()),
-      collapser(std::make_unique<TransformationCollapser>())
+      transformations(std::make_unique<RecordedSteps>()),
+      ownerIndex(std::make_unique<ShortcutOwnerIndex>())
 {
 }
 
@@ -53,8 +51,7 @@ const ShortcutMap &QvelShortcutManager::getShortcuts() const
 
 const std::vector<ShortcutTransformation> &QvelShortcutManager::currentTransformations() const
 {
-    collapser->compact(transformations);
-    return transformations;
+    return transformations->steps();
 }
 
 QString QvelShortcutManager::getShortcutsFromActionId(const ActionIdentifier &identifier) const
@@ -97,27 +94,13 @@ bool QvelShortcutManager::isUserModified() const
 
 bool QvelShortcutManager::isUserModifiedAction(const ActionIdentifier &identifier)
 {
-    clampUserModTransformIndex();
-    if (collapser->hasSettled(transformations, userModTransformIndex))
-        return collapser->touches(identifier);
-    const auto &steps = currentTransformations();
-    return std::any_of(steps.begin() + static_cast<std::ptrdiff_t>(userModTransformIndex),
-                       steps.end(), [&identifier](const ShortcutTransformation &step) {
-                           return step.actionId() == identifier;
-                       });
+    return transformations->touches(identifier);
 }
 
 bool QvelShortcutManager::isUserModifiedShortcut(const ActionIdentifier &identifier,
                                                  const QString &shortcut)
 {
-    clampUserModTransformIndex();
-    if (collapser->hasSettled(transformations, userModTransformIndex))
-        return collapser->touches(transformations, identifier, shortcut);
-    const auto &steps = currentTransformations();
-    return std::any_of(steps.begin() + static_cast<std::ptrdiff_t>(userModTransformIndex),
-                       steps.end(), [&](const ShortcutTransformation &step) {
-                           return step.actionId() == identifier && step.shortcut() == shortcut;
-                       });
+    return transformations->touches(identifier, shortcut);
 }
 
 // Edits
@@ -129,7 +112,7 @@ void QvelShortcutManager::assignShortcut(const ActionIdentifier &identifier,
         return;
     const ShortcutTransformation step(ShortcutTransformation::Assign, identifier, shortcut,
                                       description);
-    transformations.push_back(step);
+    transformations->append(step);
     // The step's copies: the caller's may lie inside the very map entry that is about to change.
     assignShortcutInternal(step.actionId(), step.shortcut(), true, false);
     checkModifiedAndEmit();
@@ -143,7 +126,7 @@ void QvelShortcutManager::unassignShortcut(const ActionIdentifier &identifier,
         return;
     const ShortcutTransformation step(ShortcutTransformation::Unassign, identifier, shortcut,
                                       description);
-    transformations.push_back(step);
+    transformations->append(step);
     // The step's copies: the caller's may lie inside the very map entry that is about to change.
     unassignShortcutInternal(step.actionId(), step.shortcut(), true);
     checkModifiedAndEmit();
@@ -221,13 +204,13 @@ void QvelShortcutManager::unassignShortcutInternal(const ActionIdentifier &ident
 void QvelShortcutManager::applyTransforms()
 {
     baseShortcuts = currentShortcuts;
-    if (transformationCount() > 0)
+    if (!transformations->steps().empty())
         dropTransforms();
 }
 
 void QvelShortcutManager::clearTransforms()
 {
-    if (transformationCount() == 0 && !hasLostSavedSteps)
+    if (transformations->steps().empty() && !transformations->lacksSavedSteps())
         return;
     currentShortcuts = baseShortcuts;
     ownerIndex->rebuild(currentShortcuts);
@@ -236,15 +219,14 @@ void QvelShortcutManager::clearTransforms()
 
 void QvelShortcutManager::dropTransforms()
 {
-    resetTransformations();
+    transformations->clear();
     checkModifiedAndEmit();
     Q_EMIT shortcutTransformsCleared();
 }
 
 void QvelShortcutManager::collapseTransforms(std::size_t start)
 {
-    collapser->settle(transformations, start);
-    collapser->compact(transformations);
+    transformations->cancelFrom(start);
     Q_EMIT shortcutTransformsCollapsed();
 }
 
@@ -255,48 +237,29 @@ void QvelShortcutManager::clearShortcuts()
     currentShortcuts = ShortcutMap(initialBuckets);
     baseShortcuts = ShortcutMap(initialBuckets);
     ownerIndex->clear();
-    resetTransformations();
+    transformations->clear();
     checkModifiedAndEmit();
     Q_EMIT shortcutsCleared();
 }
 
 // State
 
-std::size_t QvelShortcutManager::transformationCount() const
+void QvelShortcutManager::markStepsSaved()
 {
-    return collapser->count(transformations);
-}
-
-void QvelShortcutManager::resetTransformations()
-{
-    transformations.clear();
-    collapser->reset();
-    userModTransformIndex = 0;
-    hasLostSavedSteps = false;
-}
-
-void QvelShortcutManager::setUserModTransformIndex(int index)
-{
-    userModTransformIndex = static_cast<std::uint64_t>(index);
+    transformations->markSaved();
     checkModifiedAndEmit();
-}
-
-void QvelShortcutManager::clampUserModTransformIndex()
-{
-    userModTransformIndex = std::min<std::uint64_t>(userModTransformIndex, transformationCount());
 }
 
 void QvelShortcutManager::checkModifiedAndEmit()
 {
-    if (userModTransformIndex < transformationCount()) {
-        collapser->settle(transformations, userModTransformIndex);
+    if (transformations->hasUnsaved()) {
+        transformations->cancelUnsaved();
         Q_EMIT shortcutTransformsCollapsed();
     }
-    const std::size_t count = transformationCount();
-    if ((userModTransformIndex < count || hasLostSavedSteps) && !modified) {
+    if (transformations->isModified() && !modified) {
         modified = true;
         Q_EMIT shortcutsModified();
-    } else if (userModTransformIndex == count && !hasLostSavedSteps && modified) {
+    } else if (transformations->isUnmodified() && modified) {
         modified = false;
         Q_EMIT shortcutsUnModified();
     }

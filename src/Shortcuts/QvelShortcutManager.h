@@ -10,15 +10,14 @@
 #include <QString>
 
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <unordered_map>
 #include <vector>
 
 namespace CUI {
 
+class RecordedSteps;
 class ShortcutOwnerIndex;
-class TransformationCollapser;
 
 /// Knows which hotkeys each action has: those of the base configuration, those in effect, and the
 /// recorded steps (transformations) that lead from the one to the other.
@@ -234,31 +233,20 @@ private:
     void unassignShortcutInternal(const ActionIdentifier &identifier, const QString &shortcut,
                                   bool userModification);
     bool hasRoomForShortcuts(const ActionIdentifier &identifier) const;
-    std::size_t transformationCount() const;
-    void resetTransformations();
-    void setUserModTransformIndex(int index);
-    void clampUserModTransformIndex();
+    void markStepsSaved();
     void checkModifiedAndEmit();
     void dropTransforms();
     bool writeTransforms(const QString &path) const;
-    void reclaimUnsavedSteps(const std::vector<ShortcutTransformation> &savedSteps);
 
     void applyLoadedStep(const ShortcutTransformation &step);
     void loadBaseFiles();
     void assignDefaultAccelerators();
 
-    std::uint64_t userModTransformIndex = 0;
     bool modified = false;
-    /// Since a save that failed, the list lacks steps that the file of the set still has.
-    bool hasLostSavedSteps = false;
     ShortcutMap currentShortcuts;
     ShortcutMap baseShortcuts;
-    // Cancelled steps stay in the list until somebody looks at it: removing one at once would cost
-    // an edit the moving of all later steps.
-    mutable std::vector<ShortcutTransformation> transformations;
-
+    std::unique_ptr<RecordedSteps> transformations;
     std::unique_ptr<ShortcutOwnerIndex> ownerIndex;
-    std::unique_ptr<TransformationCollapser> collapser;
 };
 
 } // namespace CUI

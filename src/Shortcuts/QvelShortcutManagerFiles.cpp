@@ -8,6 +8,7 @@
 #include "LazyLog.h"
 #include "LegacyConversion.h"
 #include "PresetMetadata.h"
+#include "RecordedSteps.h"
 #include "SaveFileCommit.h"
 #include "XmlError.h"
 
@@ -137,17 +138,13 @@ bool QvelShortcutManager::saveShortcutTransforms(const QString &callersPath)
     if (callersPath.isEmpty())
         return false;
     const QString path = callersPath; // slots may change the caller's
-    clampUserModTransformIndex();
-    const auto &steps = currentTransformations();
-    std::vector<ShortcutTransformation> savedSteps(
-            steps.begin(), steps.begin() + static_cast<std::ptrdiff_t>(userModTransformIndex));
+    const RecordedSteps::Steps savedSteps = transformations->savedSteps();
     collapseTransforms(0);
     if (!writeTransforms(path)) {
-        reclaimUnsavedSteps(savedSteps);
+        transformations->reclaimUnsaved(savedSteps, modified);
         return false;
     }
-    hasLostSavedSteps = false;
-    setUserModTransformIndex(static_cast<int>(transformationCount()));
+    markStepsSaved();
     if (!validateShortcutsTransforms(path))
         qDebug("Generated transformation file doesn't conform to the schema defined in "
                "HotkeyTransformationSchema.xsd.");
@@ -166,26 +163,6 @@ bool QvelShortcutManager::writeTransforms(const QString &path) const
     }
     return HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::WriteUnlocked)
            && commitWhole(file);
-}
-
-// After a save that failed, the list has been cancelled across the boundary between saved and
-// unsaved steps. Only what the saved steps and the list have in common at their start still counts
-// as saved; otherwise unsaved edits would pass for saved ones. Saved steps that have gone with
-// unsaved ones are still in the file, so that no edit of the list alone can be the way back to it.
-void QvelShortcutManager::reclaimUnsavedSteps(const std::vector<ShortcutTransformation> &savedSteps)
-{
-    const auto &steps = currentTransformations();
-    if (!modified) {
-        userModTransformIndex = steps.size(); // the same edits, some in fewer steps
-        return;
-    }
-    const auto isSame = [](const ShortcutTransformation &a, const ShortcutTransformation &b) {
-        return a.kind() == b.kind() && a.actionId() == b.actionId() && a.shortcut() == b.shortcut();
-    };
-    const auto common =
-            std::mismatch(savedSteps.begin(), savedSteps.end(), steps.begin(), steps.end(), isSame);
-    hasLostSavedSteps |= common.first != savedSteps.end();
-    userModTransformIndex = static_cast<std::uint64_t>(common.second - steps.begin());
 }
 
 bool QvelShortcutManager::loadShortcutTransforms(const QString &callersPath)
@@ -222,8 +199,8 @@ void QvelShortcutManager::applyLoadedStep(const ShortcutTransformation &step)
     const ActionIdentifier actionId = step.actionId();
     if (assigns && !hasRoomForShortcuts(actionId))
         return;
-    transformations.push_back(step);
-    setUserModTransformIndex(static_cast<int>(transformationCount()));
+    transformations->append(step);
+    markStepsSaved();
     if (assigns)
         assignShortcutInternal(actionId, step.shortcut(), true, false);
     else

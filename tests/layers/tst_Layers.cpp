@@ -26,8 +26,7 @@ const struct {
          "src/HotkeyFiles/ConfigType.* src/Shortcuts/CaseFoldedText.* "
          "src/Shortcuts/JoinedHotkeys.* src/Shortcuts/KeyNames.* src/Shortcuts/QShortcutsList.* "
          "src/Shortcuts/ShortcutTransformation.* src/Shortcuts/VirtualKeys.* "
-         "src/Shortcuts/OpenSteps.* "
-         "src/Shortcuts/TransformationCollapser.*"},
+         "src/Shortcuts/RecordedSteps.*"},
         {Services,
          "src/ActionManager/ICuiActionManager.* src/HotkeyEditor/HotkeyRecorder.* "
          "src/HotkeyFiles/IPathManager.* src/HotkeyFiles/InstalledPaths.* src/MessageLog/LazyLog.* "

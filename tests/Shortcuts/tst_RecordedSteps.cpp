@@ -1,5 +1,5 @@
+#include "RecordedSteps.h"
 #include "Text.h"
-#include "TransformationCollapser.h"
 
 #include <QtTest>
 
@@ -7,9 +7,9 @@
 #include <random>
 
 using CUI::ActionIdentifier;
+using CUI::RecordedSteps;
 using Step = CUI::ShortcutTransformation;
-using CUI::TransformationCollapser;
-using Steps = TransformationCollapser::Steps;
+using Steps = RecordedSteps::Steps;
 
 namespace {
 
@@ -73,23 +73,22 @@ Steps randomSteps(std::mt19937 &random, int count, int variety)
 
 } // namespace
 
-class TestTransformationCollapser : public QObject
+class TestRecordedSteps : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void collapses();
     void equalsPlainRule();
-    void settlingStepByStepEqualsPlainRule();
-    void queriesFollowTheOpenSteps();
+    void growingEqualsPlainRule();
 };
 
-void TestTransformationCollapser::collapses()
+void TestRecordedSteps::collapses()
 {
     // The numbers of the steps that are left.
     const auto left = [](const char *list, std::size_t start = 0) {
         Steps collapsed = steps(list);
-        TransformationCollapser::collapse(collapsed, start);
+        RecordedSteps::cancel(collapsed, start);
         QString numbers;
         for (const Step &step : collapsed)
             numbers += step.description();
@@ -106,7 +105,7 @@ void TestTransformationCollapser::collapses()
     QCOMPARE(left("+X a|-X a", 9), s("01"));
 }
 
-void TestTransformationCollapser::equalsPlainRule()
+void TestRecordedSteps::equalsPlainRule()
 {
     std::mt19937 random(1);
     for (int round = 0; round < 3000; ++round) {
@@ -115,56 +114,45 @@ void TestTransformationCollapser::equalsPlainRule()
         Steps plain = list;
         collapsePlainly(plain, start);
         Steps collapsed = list;
-        TransformationCollapser::collapse(collapsed, start);
+        RecordedSteps::cancel(collapsed, start);
         QCOMPARE(texts(collapsed), texts(plain));
     }
 }
 
-void TestTransformationCollapser::settlingStepByStepEqualsPlainRule()
+void TestRecordedSteps::growingEqualsPlainRule()
 {
     std::mt19937 random(2);
     for (int round = 0; round < 60; ++round) {
-        TransformationCollapser collapser;
-        Steps list;
+        RecordedSteps recorded;
         Steps plain;
-        std::size_t start = 0;
+        std::size_t savedCount = 0;
         for (const Step &next : randomSteps(random, 200, 4 + round % 20)) {
-            list.push_back(next);
+            recorded.append(next);
             plain.push_back(next);
-            if (random() % 50 == 0)
-                start = random() % plain.size(); // as when a set is saved in between
-            collapser.settle(list, start);
-            collapsePlainly(plain, start);
-            QCOMPARE(collapser.count(list), plain.size());
-            QVERIFY(collapser.hasSettled(list, start));
-            if (random() % 20 == 0) {
-                collapser.compact(list);
-                QCOMPARE(texts(list), texts(plain));
+            const bool isSaved = random() % 50 == 0;
+            if (isSaved) {
+                recorded.markSaved();
+                savedCount = plain.size();
             }
-            start = std::min(start, plain.size());
+            recorded.cancelUnsaved();
+            collapsePlainly(plain, savedCount);
+            QCOMPARE(recorded.isModified(), plain.size() > savedCount);
+            const auto isTouched = [&](auto concerns) {
+                return std::any_of(plain.begin() + std::ptrdiff_t(savedCount), plain.end(),
+                                   concerns);
+            };
+            QCOMPARE(recorded.touches(next.actionId()), isTouched([&](const Step &step) {
+                         return step.actionId() == next.actionId();
+                     }));
+            QCOMPARE(recorded.touches(next.actionId(), next.shortcut()),
+                     isTouched([&](const Step &step) {
+                         return step.actionId() == next.actionId()
+                                && step.shortcut() == next.shortcut();
+                     }));
         }
-        collapser.compact(list);
-        QCOMPARE(texts(list), texts(plain));
+        QCOMPARE(texts(recorded.steps()), texts(plain));
     }
 }
 
-void TestTransformationCollapser::queriesFollowTheOpenSteps()
-{
-    TransformationCollapser collapser;
-    Steps open = steps("+X a|+Y b|+Z b|-Y b");
-    collapser.settle(open, 1);
-    const ActionIdentifier a{1, s("a")};
-    const ActionIdentifier b{1, s("b")};
-    QVERIFY(!collapser.touches(a)); // before the start
-    QVERIFY(collapser.touches(b));
-    QVERIFY(!collapser.touches(open, b, s("Y")));
-    QVERIFY(collapser.touches(open, b, s("Z")));
-    open.push_back(steps("-Z b").front());
-    QVERIFY(!collapser.hasSettled(open, 1));
-    collapser.settle(open, 1);
-    QVERIFY(!collapser.touches(b));
-    QVERIFY(!collapser.hasSettled(open, 0));
-}
-
-QTEST_GUILESS_MAIN(TestTransformationCollapser)
-#include "tst_TransformationCollapser.moc"
+QTEST_GUILESS_MAIN(TestRecordedSteps)
+#include "tst_RecordedSteps.moc"

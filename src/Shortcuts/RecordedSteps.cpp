@@ -1,0 +1,142 @@
+#include "RecordedSteps.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <utility>
+
+namespace CUI {
+
+namespace {
+
+using Step = ShortcutTransformation;
+
+bool concernsSame(const Step &a, const Step &b)
+{
+    return a.actionId() == b.actionId() && a.shortcut() == b.shortcut();
+}
+
+struct HashOfSubject {
+    std::size_t operator()(const Step *step) const
+    {
+        // Not XOR: qHash() is a CRC on some processors, and the CRCs of texts that end alike would
+        // cancel out.
+        return 31 * std::hash<ActionIdentifier>()(step->actionId()) + qHash(step->shortcut());
+    }
+};
+
+struct SameSubject {
+    bool operator()(const Step *a, const Step *b) const { return concernsSame(*a, *b); }
+};
+
+} // namespace
+
+void RecordedSteps::cancel(Steps &steps, std::size_t start)
+{
+    if (start >= steps.size())
+        return;
+    std::vector<bool> isCancelled(steps.size());
+    // The steps of one action and hotkey never touch those of another. Of each, at most one is
+    // open.
+    std::unordered_set<const Step *, HashOfSubject, SameSubject> open;
+    open.reserve(steps.size() - start);
+    for (std::size_t i = start; i < steps.size(); ++i) {
+        const auto [earlier, isOpened] = open.insert(&steps[i]);
+        if (isOpened)
+            continue;
+        isCancelled[i] = true;
+        if ((*earlier)->kind() != steps[i].kind()) {
+            isCancelled[static_cast<std::size_t>(*earlier - steps.data())] = true;
+            open.erase(earlier);
+        }
+    }
+    std::size_t kept = start;
+    for (std::size_t i = start; i < steps.size(); ++i) {
+        if (isCancelled[i])
+            continue;
+        if (kept != i)
+            steps[kept] = std::move(steps[i]);
+        ++kept;
+    }
+    steps.resize(kept);
+}
+
+RecordedSteps::Steps RecordedSteps::savedSteps()
+{
+    clampSaved();
+    return {m_steps.begin(), m_steps.begin() + static_cast<std::ptrdiff_t>(m_savedCount)};
+}
+
+bool RecordedSteps::touches(const ActionIdentifier &actionId)
+{
+    clampSaved();
+    if (!m_touchedActions) {
+        m_touchedActions.emplace();
+        for (std::size_t i = m_savedCount; i < m_steps.size(); ++i)
+            m_touchedActions->insert(m_steps[i].actionId());
+    }
+    return m_touchedActions->count(actionId) > 0;
+}
+
+bool RecordedSteps::touches(const ActionIdentifier &actionId, const QString &shortcut)
+{
+    return touches(actionId)
+           && std::any_of(m_steps.begin() + static_cast<std::ptrdiff_t>(m_savedCount),
+                          m_steps.end(), [&](const Step &step) {
+                              return step.actionId() == actionId && step.shortcut() == shortcut;
+                          });
+}
+
+void RecordedSteps::append(const ShortcutTransformation &step)
+{
+    m_steps.push_back(step);
+    m_touchedActions.reset();
+}
+
+void RecordedSteps::cancelUnsaved()
+{
+    cancelFrom(m_savedCount);
+}
+
+void RecordedSteps::cancelFrom(std::size_t start)
+{
+    cancel(m_steps, start);
+    m_touchedActions.reset();
+}
+
+void RecordedSteps::clampSaved()
+{
+    m_savedCount = std::min(m_savedCount, m_steps.size());
+}
+
+void RecordedSteps::markSaved()
+{
+    m_savedCount = m_steps.size();
+    m_lacksSavedSteps = false;
+    m_touchedActions.reset();
+}
+
+// The steps have been cancelled across the boundary between saved and unsaved. If all of them were
+// still taken for saved ones, unsaved edits would pass for saved ones. Saved steps that were
+// cancelled with unsaved ones are still in the file.
+void RecordedSteps::reclaimUnsaved(const Steps &savedSteps, bool isModified)
+{
+    m_touchedActions.reset();
+    if (!isModified) {
+        m_savedCount = m_steps.size(); // the same edits, some in fewer steps
+        return;
+    }
+    const auto common = std::mismatch(savedSteps.begin(), savedSteps.end(), m_steps.begin(),
+                                      m_steps.end(), [](const Step &a, const Step &b) {
+                                          return a.kind() == b.kind() && concernsSame(a, b);
+                                      });
+    m_lacksSavedSteps |= common.first != savedSteps.end();
+    m_savedCount = static_cast<std::size_t>(common.second - m_steps.begin());
+}
+
+void RecordedSteps::clear()
+{
+    *this = RecordedSteps();
+}
+
+} // namespace CUI
