@@ -33,7 +33,8 @@ const struct {
          "src/MessageLog/QvelFileMessageLogger.* src/MessageLog/QvelMessageLog.* "
          "src/Platform/* src/Translations.cpp"},
         {Codecs, "src/HotkeyFiles/*"},
-        {Store, "src/Shortcuts/ShortcutOwnerIndex.* src/Shortcuts/QvelShortcutManager*"},
+        {Store, "src/Shortcuts/HotkeySet* src/Shortcuts/ShortcutOwnerIndex.* "
+                "src/Shortcuts/QvelShortcutManager*"},
         {Widgets, "src/Models/ActionBindings.* src/Models/ActionReach.* "
                   "src/Models/AdoptedActions.* src/Models/QvelActionBinder.* "
                   "src/Models/QvelMenusWidget.* src/Models/WindowActions.*"},
