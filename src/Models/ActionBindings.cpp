@@ -3,6 +3,8 @@
 #include "ActionReach.h"
 #include "HotkeyRecorder.h"
 #include "ICuiActionManager.h"
+#include "KeyNames.h"
+#include "NearestHolder.h"
 #include "QvelShortcutManager.h"
 
 #include <QCoreApplication>
@@ -14,18 +16,6 @@
 namespace CUI {
 
 namespace {
-
-/// The key of a hotkey text; empty when there is no such key.
-QKeySequence keyFrom(const QString &hotkey)
-{
-    const QKeySequence key = QKeySequence::fromString(hotkey, QKeySequence::PortableText);
-    for (int i = 0; i < key.count(); ++i) {
-        const auto combination = static_cast<unsigned>(key[static_cast<uint>(i)]);
-        if ((combination & ~static_cast<unsigned>(Qt::KeyboardModifierMask)) == Qt::Key_unknown)
-            return {};
-    }
-    return key;
-}
 
 /// What Qt shows for an action without a tool tip of its own.
 QString textToolTip(const QAction &action)
@@ -374,7 +364,7 @@ QList<QKeySequence> ActionBindings::keysInStore(const ActionIdentifier &identifi
     if (found == m_manager->getShortcuts().end())
         return keys;
     for (const QString &hotkey : found->second) {
-        const QKeySequence key = keyFrom(hotkey);
+        const QKeySequence key = KeyNames::keyOf(hotkey);
         if (!key.isEmpty())
             keys.append(key);
     }
@@ -413,8 +403,7 @@ ActionBindings::Answer ActionBindings::answer(const QAction *action, const QKeyS
 ActionBindings::Holders ActionBindings::holdersOf(const QList<QKeySequence> &keys) const
 {
     Holders holders;
-    int nearest = ActionReach::outOfReach;
-    ActionIdentifier holder;
+    NearestHolder nearest;
     for (const auto &[identifier, actions] : m_actions) {
         for (QAction *action : actions) {
             const QList<QKeySequence> held = action->shortcuts();
@@ -426,19 +415,11 @@ ActionBindings::Holders ActionBindings::holdersOf(const QList<QKeySequence> &key
             const int steps = ActionReach::distance(*action, widgetOf(identifier));
             if (steps != ActionReach::outOfReach || ActionReach::isInActiveWindow(*action))
                 ++holders.count;
-            const bool isNearer = steps < nearest;
-            const bool isEquallyNear = steps == nearest && holders.chosen != nullptr;
-            if (isNearer)
-                holders.isUnclear = false;
-            else if (isEquallyNear && contextOf(identifier) != contextOf(holder))
-                holders.isUnclear = true;
-            if (isNearer || (isEquallyNear && identifier < holder)) {
-                nearest = steps;
-                holder = identifier;
+            if (nearest.offer(steps, contextOf(identifier), identifier))
                 holders.chosen = action;
-            }
         }
     }
+    holders.isUnclear = nearest.isUnclear();
     return holders;
 }
 

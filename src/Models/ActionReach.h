@@ -1,6 +1,6 @@
 #pragma once
 
-#include <limits>
+#include "NearestHolder.h"
 
 class QAction;
 class QWidget;
@@ -10,8 +10,8 @@ namespace CUI {
 /// Where the keyboard focus is, seen from an action.
 namespace ActionReach {
 
-constexpr int outOfReach = std::numeric_limits<int>::max();
-constexpr int wholeWindow = outOfReach - 1;
+constexpr int outOfReach = NearestHolder::outOfReach;
+constexpr int wholeWindow = NearestHolder::wholeWindow;
 
 /// How far the focus is from where the keys of the action act, in widgets from child to parent. For
 /// an action whose context has the widget @p scope, that is this widget, and the menu bars,

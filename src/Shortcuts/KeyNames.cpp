@@ -174,4 +174,15 @@ QString getNumPadKeyName(QKeySequence::SequenceFormat format)
     return text.left(text.indexOf(QLatin1Char('+')));
 }
 
+QKeySequence keyOf(const QString &hotkey)
+{
+    const QKeySequence key = QKeySequence::fromString(hotkey, QKeySequence::PortableText);
+    for (int i = 0; i < key.count(); ++i) {
+        const auto combination = static_cast<unsigned>(key[static_cast<uint>(i)]);
+        if ((combination & ~static_cast<unsigned>(Qt::KeyboardModifierMask)) == Qt::Key_unknown)
+            return {};
+    }
+    return key;
+}
+
 } // namespace CUI::KeyNames

@@ -15,5 +15,8 @@ int keyToOEM(int key);
 int oemToKey(int virtualKey);
 QString getNumPadKeyName(QKeySequence::SequenceFormat format);
 
+/// The key of a hotkey text in portable form; empty when there is no such key.
+QKeySequence keyOf(const QString &hotkey);
+
 } // namespace KeyNames
 } // namespace CUI

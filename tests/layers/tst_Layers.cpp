@@ -24,7 +24,10 @@ const struct {
          "src/UiCustomizationsExport.h src/ActionManager/ActionIdentifier.* "
          "src/ActionManager/VelAction.* src/ActionManager/VelActionContext.* "
          "src/HotkeyFiles/ConfigType.* src/Shortcuts/CaseFoldedText.* "
-         "src/Shortcuts/JoinedHotkeys.* src/Shortcuts/KeyNames.* src/Shortcuts/QShortcutsList.* "
+         "src/Shortcuts/HotkeyClaims.* src/Shortcuts/HotkeyFinding.* "
+         "src/Shortcuts/HotkeyReservation.* "
+         "src/Shortcuts/NearbyKeys.* src/Shortcuts/NearestHolder.* src/Shortcuts/JoinedHotkeys.* "
+         "src/Shortcuts/KeyNames.* src/Shortcuts/QShortcutsList.* "
          "src/Shortcuts/ShortcutTransformation.* src/Shortcuts/VirtualKeys.* "
          "src/Shortcuts/RecordedSteps.*"},
         {Services,
@@ -33,7 +36,8 @@ const struct {
          "src/MessageLog/QvelFileMessageLogger.* src/MessageLog/QvelMessageLog.* "
          "src/Platform/* src/Translations.cpp"},
         {Codecs, "src/HotkeyFiles/*"},
-        {Store, "src/Shortcuts/HotkeySet* src/Shortcuts/ShortcutOwnerIndex.* "
+        {Store, "src/Shortcuts/HotkeyAudit* src/Shortcuts/HotkeySet* "
+                "src/Shortcuts/ShortcutOwnerIndex.* "
                 "src/Shortcuts/QvelShortcutManager*"},
         {Widgets, "src/Models/ActionBindings.* src/Models/ActionReach.* "
                   "src/Models/AdoptedActions.* src/Models/QvelActionBinder.* "

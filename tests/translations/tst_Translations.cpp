@@ -199,7 +199,8 @@ void TestTranslations::callHotkeysOneName()
     const QRegularExpression word(s("hotkey|shortcut"), QRegularExpression::CaseInsensitiveOption);
     int found = 0;
     for (const TranslatedText &text : texts()) {
-        if (!text.source.contains(word))
+        // Menus of other systems have the names that these gave them.
+        if (!text.source.contains(word) || text.context == s("CUI::HotkeyReservation"))
             continue;
         ++found;
         QVERIFY2(text.translation.contains(hotkey, Qt::CaseInsensitive),

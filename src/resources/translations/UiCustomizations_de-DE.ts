@@ -13,6 +13,239 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyAudit</name>
+    <message>
+        <source>In %1 this key runs %2, never %3.</source>
+        <translation>In %1 löst diese Taste %2 aus, nie %3.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs nothing, since these count there equally: %1.</source>
+        <translation>Sonst löst sie nichts aus, weil dort mehrere gleich gelten: %1.</translation>
+    </message>
+    <message>
+        <source>This key runs nothing, since these count everywhere equally: %1.</source>
+        <translation>Diese Taste löst nichts aus, weil mehrere überall gleich gelten: %1.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1.</source>
+        <translation>Sonst löst sie %1 aus.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1, never %2.</source>
+        <translation>Sonst löst sie %1 aus, nie %2.</translation>
+    </message>
+    <message>
+        <source>Everywhere this key runs %1, never %2.</source>
+        <translation>Diese Taste löst überall %1 aus, nie %2.</translation>
+    </message>
+    <message>
+        <source>In %1 this key runs %2.</source>
+        <translation>In %1 löst diese Taste %2 aus.</translation>
+    </message>
+    <message>
+        <source>While text is typed, this key does not run %1: %2.</source>
+        <translation>Während der Texteingabe löst diese Taste %1 nicht aus: %2.</translation>
+    </message>
+    <message>
+        <source>A desktop may take this key before it runs %1: %2.</source>
+        <translation>Ein Desktop kann diese Taste abfangen, bevor sie %1 auslöst: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2.</source>
+        <translation>%1 hat %2 verloren.</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2, and %3 has it now.</source>
+        <translation>%1 hat %2 an %3 verloren.</translation>
+    </message>
+    <message>
+        <source>No key has this name, so that none runs %1.</source>
+        <translation>Keine Taste hat diesen Namen, also löst keine %1 aus.</translation>
+    </message>
+    <message>
+        <source>The keyboard in use has no such key, so that none runs %1.</source>
+        <translation>Die verwendete Tastatur hat diese Taste nicht, also löst keine %1 aus.</translation>
+    </message>
+    <message>
+        <source>%1 runs %2, %3 runs %4.</source>
+        <translation>%1 löst %2 aus, %3 löst %4 aus.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2 of %3 hotkeys.</source>
+        <translation>%1 hat %2 von höchstens %3 Tastenkürzeln.</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyFinding</name>
+    <message>
+        <source>Held twice</source>
+        <translation>Doppelt belegt</translation>
+    </message>
+    <message>
+        <source>Ambiguous</source>
+        <translation>Mehrdeutig</translation>
+    </message>
+    <message>
+        <source>Names no key</source>
+        <translation>Keine Taste</translation>
+    </message>
+    <message>
+        <source>Not on the keyboard</source>
+        <translation>Nicht auf der Tastatur</translation>
+    </message>
+    <message>
+        <source>Shadowed</source>
+        <translation>Verdeckt</translation>
+    </message>
+    <message>
+        <source>Taken by the desktop</source>
+        <translation>Vom Desktop belegt</translation>
+    </message>
+    <message>
+        <source>Hotkey lost</source>
+        <translation>Tastenkürzel verloren</translation>
+    </message>
+    <message>
+        <source>Taken by text fields</source>
+        <translation>Von Textfeldern belegt</translation>
+    </message>
+    <message>
+        <source>Differs by keypad only</source>
+        <translation>Nur durch den Ziffernblock verschieden</translation>
+    </message>
+    <message>
+        <source>Differs by Shift only</source>
+        <translation>Nur durch die Umschalttaste verschieden</translation>
+    </message>
+    <message>
+        <source>Close to the limit</source>
+        <translation>Nahe an der Höchstzahl</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyReservation</name>
+    <message>
+        <source>Close window</source>
+        <translation>Fenster schließen</translation>
+    </message>
+    <message>
+        <source>Switch windows</source>
+        <translation>Fenster wechseln</translation>
+    </message>
+    <message>
+        <source>Window menu</source>
+        <translation>Fenstermenü</translation>
+    </message>
+    <message>
+        <source>Move or resize window</source>
+        <translation>Fenster verschieben oder Größe ändern</translation>
+    </message>
+    <message>
+        <source>Hide or minimize window</source>
+        <translation>Fenster ausblenden oder minimieren</translation>
+    </message>
+    <message>
+        <source>Show all windows</source>
+        <translation>Alle Fenster anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the desktop</source>
+        <translation>Desktop anzeigen</translation>
+    </message>
+    <message>
+        <source>Switch workspace</source>
+        <translation>Arbeitsfläche wechseln</translation>
+    </message>
+    <message>
+        <source>Move window to a workspace</source>
+        <translation>Fenster auf eine Arbeitsfläche verschieben</translation>
+    </message>
+    <message>
+        <source>Search or start a program</source>
+        <translation>Programm suchen oder starten</translation>
+    </message>
+    <message>
+        <source>Open a terminal</source>
+        <translation>Terminal öffnen</translation>
+    </message>
+    <message>
+        <source>Log out or lock the screen</source>
+        <translation>Abmelden oder Bildschirm sperren</translation>
+    </message>
+    <message>
+        <source>Task manager or force quit</source>
+        <translation>Taskmanager oder Beenden erzwingen</translation>
+    </message>
+    <message>
+        <source>Picture of the screen</source>
+        <translation>Bildschirmfoto</translation>
+    </message>
+    <message>
+        <source>Switch to a text console</source>
+        <translation>Zu einer Textkonsole wechseln</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Bedienungshilfen</translation>
+    </message>
+    <message>
+        <source>Cut, copy or paste</source>
+        <translation>Ausschneiden, kopieren oder einfügen</translation>
+    </message>
+    <message>
+        <source>Undo or redo</source>
+        <translation>Rückgängig machen oder wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Select text</source>
+        <translation>Text auswählen</translation>
+    </message>
+    <message>
+        <source>Delete text</source>
+        <translation>Text löschen</translation>
+    </message>
+    <message>
+        <source>Move the text cursor</source>
+        <translation>Textcursor bewegen</translation>
+    </message>
+    <message>
+        <source>KDE: System Settings &gt; Keyboard &gt; Shortcuts</source>
+        <translation>KDE: Systemeinstellungen &gt; Tastatur &gt; Kurzbefehle</translation>
+    </message>
+    <message>
+        <source>GNOME: Settings &gt; Keyboard</source>
+        <translation>GNOME: Einstellungen &gt; Tastatur</translation>
+    </message>
+    <message>
+        <source>macOS: System Settings &gt; Keyboard &gt; Keyboard Shortcuts</source>
+        <translation>macOS: Systemeinstellungen &gt; Tastatur &gt; Tastaturkurzbefehle</translation>
+    </message>
+    <message>
+        <source>Text fields of Qt</source>
+        <translation>Textfelder von Qt</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>Textfelder</translation>
+    </message>
+    <message>
+        <source>Windows: built into the system</source>
+        <translation>Windows: fest im System</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>

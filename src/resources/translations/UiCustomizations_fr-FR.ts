@@ -13,6 +13,239 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyAudit</name>
+    <message>
+        <source>In %1 this key runs %2, never %3.</source>
+        <translation>Dans %1, cette touche exécute %2, jamais %3.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs nothing, since these count there equally: %1.</source>
+        <translation>Ailleurs, elle n’exécute rien, car plusieurs actions y comptent autant : %1.</translation>
+    </message>
+    <message>
+        <source>This key runs nothing, since these count everywhere equally: %1.</source>
+        <translation>Cette touche n’exécute rien, car plusieurs actions comptent autant partout : %1.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1.</source>
+        <translation>Ailleurs, elle exécute %1.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1, never %2.</source>
+        <translation>Ailleurs, elle exécute %1, jamais %2.</translation>
+    </message>
+    <message>
+        <source>Everywhere this key runs %1, never %2.</source>
+        <translation>Partout, cette touche exécute %1, jamais %2.</translation>
+    </message>
+    <message>
+        <source>In %1 this key runs %2.</source>
+        <translation>Dans %1, cette touche exécute %2.</translation>
+    </message>
+    <message>
+        <source>While text is typed, this key does not run %1: %2.</source>
+        <translation>Pendant la saisie de texte, cette touche n’exécute pas %1 : %2.</translation>
+    </message>
+    <message>
+        <source>A desktop may take this key before it runs %1: %2.</source>
+        <translation>Un bureau peut prendre cette touche avant qu’elle n’exécute %1 : %2.</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2.</source>
+        <translation>%1 a perdu %2.</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2, and %3 has it now.</source>
+        <translation>%1 a perdu %2 au profit de %3.</translation>
+    </message>
+    <message>
+        <source>No key has this name, so that none runs %1.</source>
+        <translation>Aucune touche ne porte ce nom ; aucune n’exécute donc %1.</translation>
+    </message>
+    <message>
+        <source>The keyboard in use has no such key, so that none runs %1.</source>
+        <translation>Le clavier utilisé n’a pas cette touche ; aucune n’exécute donc %1.</translation>
+    </message>
+    <message>
+        <source>%1 runs %2, %3 runs %4.</source>
+        <translation>%1 exécute %2, %3 exécute %4.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2 of %3 hotkeys.</source>
+        <translation>%1 a %2 raccourcis sur %3.</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyFinding</name>
+    <message>
+        <source>Held twice</source>
+        <translation>Attribué deux fois</translation>
+    </message>
+    <message>
+        <source>Ambiguous</source>
+        <translation>Ambigu</translation>
+    </message>
+    <message>
+        <source>Names no key</source>
+        <translation>Aucune touche</translation>
+    </message>
+    <message>
+        <source>Not on the keyboard</source>
+        <translation>Absent du clavier</translation>
+    </message>
+    <message>
+        <source>Shadowed</source>
+        <translation>Masqué</translation>
+    </message>
+    <message>
+        <source>Taken by the desktop</source>
+        <translation>Pris par le bureau</translation>
+    </message>
+    <message>
+        <source>Hotkey lost</source>
+        <translation>Raccourci perdu</translation>
+    </message>
+    <message>
+        <source>Taken by text fields</source>
+        <translation>Pris par les champs de texte</translation>
+    </message>
+    <message>
+        <source>Differs by keypad only</source>
+        <translation>Ne diffère que par le pavé numérique</translation>
+    </message>
+    <message>
+        <source>Differs by Shift only</source>
+        <translation>Ne diffère que par Maj</translation>
+    </message>
+    <message>
+        <source>Close to the limit</source>
+        <translation>Proche de la limite</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyReservation</name>
+    <message>
+        <source>Close window</source>
+        <translation>Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>Switch windows</source>
+        <translation>Changer de fenêtre</translation>
+    </message>
+    <message>
+        <source>Window menu</source>
+        <translation>Menu de la fenêtre</translation>
+    </message>
+    <message>
+        <source>Move or resize window</source>
+        <translation>Déplacer ou redimensionner la fenêtre</translation>
+    </message>
+    <message>
+        <source>Hide or minimize window</source>
+        <translation>Masquer ou réduire la fenêtre</translation>
+    </message>
+    <message>
+        <source>Show all windows</source>
+        <translation>Afficher toutes les fenêtres</translation>
+    </message>
+    <message>
+        <source>Show the desktop</source>
+        <translation>Afficher le bureau</translation>
+    </message>
+    <message>
+        <source>Switch workspace</source>
+        <translation>Changer d’espace de travail</translation>
+    </message>
+    <message>
+        <source>Move window to a workspace</source>
+        <translation>Déplacer la fenêtre vers un espace de travail</translation>
+    </message>
+    <message>
+        <source>Search or start a program</source>
+        <translation>Rechercher ou lancer un programme</translation>
+    </message>
+    <message>
+        <source>Open a terminal</source>
+        <translation>Ouvrir un terminal</translation>
+    </message>
+    <message>
+        <source>Log out or lock the screen</source>
+        <translation>Se déconnecter ou verrouiller l’écran</translation>
+    </message>
+    <message>
+        <source>Task manager or force quit</source>
+        <translation>Gestionnaire des tâches ou arrêt forcé</translation>
+    </message>
+    <message>
+        <source>Picture of the screen</source>
+        <translation>Capture d’écran</translation>
+    </message>
+    <message>
+        <source>Switch to a text console</source>
+        <translation>Passer à une console texte</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Accessibilité</translation>
+    </message>
+    <message>
+        <source>Cut, copy or paste</source>
+        <translation>Couper, copier ou coller</translation>
+    </message>
+    <message>
+        <source>Undo or redo</source>
+        <translation>Annuler ou rétablir</translation>
+    </message>
+    <message>
+        <source>Select text</source>
+        <translation>Sélectionner du texte</translation>
+    </message>
+    <message>
+        <source>Delete text</source>
+        <translation>Supprimer du texte</translation>
+    </message>
+    <message>
+        <source>Move the text cursor</source>
+        <translation>Déplacer le curseur de texte</translation>
+    </message>
+    <message>
+        <source>KDE: System Settings &gt; Keyboard &gt; Shortcuts</source>
+        <translation>KDE : Configuration du système &gt; Clavier &gt; Raccourcis</translation>
+    </message>
+    <message>
+        <source>GNOME: Settings &gt; Keyboard</source>
+        <translation>GNOME : Paramètres &gt; Clavier</translation>
+    </message>
+    <message>
+        <source>macOS: System Settings &gt; Keyboard &gt; Keyboard Shortcuts</source>
+        <translation>macOS : Réglages Système &gt; Clavier &gt; Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Text fields of Qt</source>
+        <translation>Champs de texte de Qt</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>Champs de texte</translation>
+    </message>
+    <message>
+        <source>Windows: built into the system</source>
+        <translation>Windows : intégré au système</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>

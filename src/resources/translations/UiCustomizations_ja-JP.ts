@@ -13,6 +13,239 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyAudit</name>
+    <message>
+        <source>In %1 this key runs %2, never %3.</source>
+        <translation>%1 では、このキーは %2 を実行し、%3 は実行しません。</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs nothing, since these count there equally: %1.</source>
+        <translation>それ以外では、次のものが同等なため何も実行しません: %1。</translation>
+    </message>
+    <message>
+        <source>This key runs nothing, since these count everywhere equally: %1.</source>
+        <translation>次のものがどこでも同等なため、このキーは何も実行しません: %1。</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1.</source>
+        <translation>それ以外では %1 を実行します。</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1, never %2.</source>
+        <translation>それ以外では %1 を実行し、%2 は実行しません。</translation>
+    </message>
+    <message>
+        <source>Everywhere this key runs %1, never %2.</source>
+        <translation>どこでも、このキーは %1 を実行し、%2 は実行しません。</translation>
+    </message>
+    <message>
+        <source>In %1 this key runs %2.</source>
+        <translation>%1 では、このキーは %2 を実行します。</translation>
+    </message>
+    <message>
+        <source>While text is typed, this key does not run %1: %2.</source>
+        <translation>テキストの入力中、このキーは %1 を実行しません: %2。</translation>
+    </message>
+    <message>
+        <source>A desktop may take this key before it runs %1: %2.</source>
+        <translation>このキーは、%1 を実行する前にデスクトップに使われることがあります: %2。</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2.</source>
+        <translation>%1 は %2 を失いました。</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2, and %3 has it now.</source>
+        <translation>%1 は %2 を失い、現在は %3 が使用しています。</translation>
+    </message>
+    <message>
+        <source>No key has this name, so that none runs %1.</source>
+        <translation>この名前のキーはないため、%1 は実行されません。</translation>
+    </message>
+    <message>
+        <source>The keyboard in use has no such key, so that none runs %1.</source>
+        <translation>使用中のキーボードにこのキーがないため、%1 は実行されません。</translation>
+    </message>
+    <message>
+        <source>%1 runs %2, %3 runs %4.</source>
+        <translation>%1 は %2 を、%3 は %4 を実行します。</translation>
+    </message>
+    <message>
+        <source>%1 holds %2 of %3 hotkeys.</source>
+        <translation>%1 のホットキーは %3 個中 %2 個です。</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyFinding</name>
+    <message>
+        <source>Held twice</source>
+        <translation>重複</translation>
+    </message>
+    <message>
+        <source>Ambiguous</source>
+        <translation>あいまい</translation>
+    </message>
+    <message>
+        <source>Names no key</source>
+        <translation>存在しないキー</translation>
+    </message>
+    <message>
+        <source>Not on the keyboard</source>
+        <translation>キーボードにないキー</translation>
+    </message>
+    <message>
+        <source>Shadowed</source>
+        <translation>隠れている</translation>
+    </message>
+    <message>
+        <source>Taken by the desktop</source>
+        <translation>デスクトップが使用</translation>
+    </message>
+    <message>
+        <source>Hotkey lost</source>
+        <translation>ホットキーの喪失</translation>
+    </message>
+    <message>
+        <source>Taken by text fields</source>
+        <translation>テキスト入力欄が使用</translation>
+    </message>
+    <message>
+        <source>Differs by keypad only</source>
+        <translation>テンキーだけの違い</translation>
+    </message>
+    <message>
+        <source>Differs by Shift only</source>
+        <translation>Shift だけの違い</translation>
+    </message>
+    <message>
+        <source>Close to the limit</source>
+        <translation>上限に近い</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>注記</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyReservation</name>
+    <message>
+        <source>Close window</source>
+        <translation>ウィンドウを閉じる</translation>
+    </message>
+    <message>
+        <source>Switch windows</source>
+        <translation>ウィンドウの切り替え</translation>
+    </message>
+    <message>
+        <source>Window menu</source>
+        <translation>ウィンドウメニュー</translation>
+    </message>
+    <message>
+        <source>Move or resize window</source>
+        <translation>ウィンドウの移動またはサイズ変更</translation>
+    </message>
+    <message>
+        <source>Hide or minimize window</source>
+        <translation>ウィンドウを隠すまたは最小化</translation>
+    </message>
+    <message>
+        <source>Show all windows</source>
+        <translation>すべてのウィンドウを表示</translation>
+    </message>
+    <message>
+        <source>Show the desktop</source>
+        <translation>デスクトップを表示</translation>
+    </message>
+    <message>
+        <source>Switch workspace</source>
+        <translation>ワークスペースの切り替え</translation>
+    </message>
+    <message>
+        <source>Move window to a workspace</source>
+        <translation>ウィンドウをワークスペースに移動</translation>
+    </message>
+    <message>
+        <source>Search or start a program</source>
+        <translation>プログラムの検索または起動</translation>
+    </message>
+    <message>
+        <source>Open a terminal</source>
+        <translation>端末を開く</translation>
+    </message>
+    <message>
+        <source>Log out or lock the screen</source>
+        <translation>ログアウトまたは画面のロック</translation>
+    </message>
+    <message>
+        <source>Task manager or force quit</source>
+        <translation>タスクマネージャーまたは強制終了</translation>
+    </message>
+    <message>
+        <source>Picture of the screen</source>
+        <translation>スクリーンショット</translation>
+    </message>
+    <message>
+        <source>Switch to a text console</source>
+        <translation>テキストコンソールに切り替え</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>アクセシビリティ</translation>
+    </message>
+    <message>
+        <source>Cut, copy or paste</source>
+        <translation>切り取り、コピー、貼り付け</translation>
+    </message>
+    <message>
+        <source>Undo or redo</source>
+        <translation>元に戻すまたはやり直す</translation>
+    </message>
+    <message>
+        <source>Select text</source>
+        <translation>テキストの選択</translation>
+    </message>
+    <message>
+        <source>Delete text</source>
+        <translation>テキストの削除</translation>
+    </message>
+    <message>
+        <source>Move the text cursor</source>
+        <translation>テキストカーソルの移動</translation>
+    </message>
+    <message>
+        <source>KDE: System Settings &gt; Keyboard &gt; Shortcuts</source>
+        <translation>KDE: システム設定 &gt; キーボード &gt; ショートカット</translation>
+    </message>
+    <message>
+        <source>GNOME: Settings &gt; Keyboard</source>
+        <translation>GNOME: 設定 &gt; キーボード</translation>
+    </message>
+    <message>
+        <source>macOS: System Settings &gt; Keyboard &gt; Keyboard Shortcuts</source>
+        <translation>macOS: システム設定 &gt; キーボード &gt; キーボードショートカット</translation>
+    </message>
+    <message>
+        <source>Text fields of Qt</source>
+        <translation>Qt のテキスト入力欄</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>テキスト入力欄</translation>
+    </message>
+    <message>
+        <source>Windows: built into the system</source>
+        <translation>Windows: システムに組み込み</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>

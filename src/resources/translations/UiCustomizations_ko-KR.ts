@@ -13,6 +13,239 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyAudit</name>
+    <message>
+        <source>In %1 this key runs %2, never %3.</source>
+        <translation>%1에서 이 키는 %2을(를) 실행하고 %3은(는) 실행하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs nothing, since these count there equally: %1.</source>
+        <translation>그 밖의 곳에서는 다음이 동등하므로 아무것도 실행하지 않습니다: %1.</translation>
+    </message>
+    <message>
+        <source>This key runs nothing, since these count everywhere equally: %1.</source>
+        <translation>다음이 어디서나 동등하므로 이 키는 아무것도 실행하지 않습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1.</source>
+        <translation>그 밖의 곳에서는 %1을(를) 실행합니다.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1, never %2.</source>
+        <translation>그 밖의 곳에서는 %1을(를) 실행하고 %2은(는) 실행하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Everywhere this key runs %1, never %2.</source>
+        <translation>어디서나 이 키는 %1을(를) 실행하고 %2은(는) 실행하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>In %1 this key runs %2.</source>
+        <translation>%1에서 이 키는 %2을(를) 실행합니다.</translation>
+    </message>
+    <message>
+        <source>While text is typed, this key does not run %1: %2.</source>
+        <translation>텍스트를 입력하는 동안 이 키는 %1을(를) 실행하지 않습니다: %2.</translation>
+    </message>
+    <message>
+        <source>A desktop may take this key before it runs %1: %2.</source>
+        <translation>이 키는 %1을(를) 실행하기 전에 데스크톱에서 사용할 수 있습니다: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2.</source>
+        <translation>%1에서 %2이(가) 제거되었습니다.</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2, and %3 has it now.</source>
+        <translation>%1에서 %2이(가) 제거되었고, 지금은 %3에 할당되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>No key has this name, so that none runs %1.</source>
+        <translation>이 이름의 키가 없어 %1을(를) 실행할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The keyboard in use has no such key, so that none runs %1.</source>
+        <translation>사용 중인 키보드에 이 키가 없어 %1을(를) 실행할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 runs %2, %3 runs %4.</source>
+        <translation>%1은(는) %2을(를), %3은(는) %4을(를) 실행합니다.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2 of %3 hotkeys.</source>
+        <translation>%1의 단축키: %3개 중 %2개.</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyFinding</name>
+    <message>
+        <source>Held twice</source>
+        <translation>중복 할당</translation>
+    </message>
+    <message>
+        <source>Ambiguous</source>
+        <translation>모호함</translation>
+    </message>
+    <message>
+        <source>Names no key</source>
+        <translation>없는 키 이름</translation>
+    </message>
+    <message>
+        <source>Not on the keyboard</source>
+        <translation>키보드에 없음</translation>
+    </message>
+    <message>
+        <source>Shadowed</source>
+        <translation>가려짐</translation>
+    </message>
+    <message>
+        <source>Taken by the desktop</source>
+        <translation>데스크톱에서 사용</translation>
+    </message>
+    <message>
+        <source>Hotkey lost</source>
+        <translation>단축키 상실</translation>
+    </message>
+    <message>
+        <source>Taken by text fields</source>
+        <translation>텍스트 입력란에서 사용</translation>
+    </message>
+    <message>
+        <source>Differs by keypad only</source>
+        <translation>숫자 키패드만 다름</translation>
+    </message>
+    <message>
+        <source>Differs by Shift only</source>
+        <translation>Shift 키만 다름</translation>
+    </message>
+    <message>
+        <source>Close to the limit</source>
+        <translation>한도에 가까움</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>참고</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>오류</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyReservation</name>
+    <message>
+        <source>Close window</source>
+        <translation>창 닫기</translation>
+    </message>
+    <message>
+        <source>Switch windows</source>
+        <translation>창 전환</translation>
+    </message>
+    <message>
+        <source>Window menu</source>
+        <translation>창 메뉴</translation>
+    </message>
+    <message>
+        <source>Move or resize window</source>
+        <translation>창 이동 또는 크기 조정</translation>
+    </message>
+    <message>
+        <source>Hide or minimize window</source>
+        <translation>창 숨기기 또는 최소화</translation>
+    </message>
+    <message>
+        <source>Show all windows</source>
+        <translation>모든 창 표시</translation>
+    </message>
+    <message>
+        <source>Show the desktop</source>
+        <translation>바탕 화면 표시</translation>
+    </message>
+    <message>
+        <source>Switch workspace</source>
+        <translation>작업 공간 전환</translation>
+    </message>
+    <message>
+        <source>Move window to a workspace</source>
+        <translation>창을 작업 공간으로 이동</translation>
+    </message>
+    <message>
+        <source>Search or start a program</source>
+        <translation>프로그램 검색 또는 시작</translation>
+    </message>
+    <message>
+        <source>Open a terminal</source>
+        <translation>터미널 열기</translation>
+    </message>
+    <message>
+        <source>Log out or lock the screen</source>
+        <translation>로그아웃 또는 화면 잠금</translation>
+    </message>
+    <message>
+        <source>Task manager or force quit</source>
+        <translation>작업 관리자 또는 강제 종료</translation>
+    </message>
+    <message>
+        <source>Picture of the screen</source>
+        <translation>화면 캡처</translation>
+    </message>
+    <message>
+        <source>Switch to a text console</source>
+        <translation>텍스트 콘솔로 전환</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>손쉬운 사용</translation>
+    </message>
+    <message>
+        <source>Cut, copy or paste</source>
+        <translation>잘라내기, 복사 또는 붙여넣기</translation>
+    </message>
+    <message>
+        <source>Undo or redo</source>
+        <translation>실행 취소 또는 다시 실행</translation>
+    </message>
+    <message>
+        <source>Select text</source>
+        <translation>텍스트 선택</translation>
+    </message>
+    <message>
+        <source>Delete text</source>
+        <translation>텍스트 삭제</translation>
+    </message>
+    <message>
+        <source>Move the text cursor</source>
+        <translation>텍스트 커서 이동</translation>
+    </message>
+    <message>
+        <source>KDE: System Settings &gt; Keyboard &gt; Shortcuts</source>
+        <translation>KDE: 시스템 설정 &gt; 키보드 &gt; 단축키</translation>
+    </message>
+    <message>
+        <source>GNOME: Settings &gt; Keyboard</source>
+        <translation>그놈: 설정 &gt; 키보드</translation>
+    </message>
+    <message>
+        <source>macOS: System Settings &gt; Keyboard &gt; Keyboard Shortcuts</source>
+        <translation>macOS: 시스템 설정 &gt; 키보드 &gt; 키보드 단축키</translation>
+    </message>
+    <message>
+        <source>Text fields of Qt</source>
+        <translation>Qt의 텍스트 입력란</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>텍스트 입력란</translation>
+    </message>
+    <message>
+        <source>Windows: built into the system</source>
+        <translation>Windows: 시스템에 내장</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>

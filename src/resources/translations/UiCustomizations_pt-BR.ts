@@ -13,6 +13,239 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyAudit</name>
+    <message>
+        <source>In %1 this key runs %2, never %3.</source>
+        <translation>Em %1, esta tecla executa %2, nunca %3.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs nothing, since these count there equally: %1.</source>
+        <translation>Nos demais lugares, não executa nada, pois estas valem igualmente: %1.</translation>
+    </message>
+    <message>
+        <source>This key runs nothing, since these count everywhere equally: %1.</source>
+        <translation>Esta tecla não executa nada, pois estas valem igualmente em qualquer lugar: %1.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1.</source>
+        <translation>Nos demais lugares, executa %1.</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1, never %2.</source>
+        <translation>Nos demais lugares, executa %1, nunca %2.</translation>
+    </message>
+    <message>
+        <source>Everywhere this key runs %1, never %2.</source>
+        <translation>Em qualquer lugar, esta tecla executa %1, nunca %2.</translation>
+    </message>
+    <message>
+        <source>In %1 this key runs %2.</source>
+        <translation>Em %1, esta tecla executa %2.</translation>
+    </message>
+    <message>
+        <source>While text is typed, this key does not run %1: %2.</source>
+        <translation>Enquanto se digita texto, esta tecla não executa %1: %2.</translation>
+    </message>
+    <message>
+        <source>A desktop may take this key before it runs %1: %2.</source>
+        <translation>Uma área de trabalho pode usar esta tecla antes que ela execute %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2.</source>
+        <translation>%1 perdeu %2.</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2, and %3 has it now.</source>
+        <translation>%1 perdeu %2, agora de %3.</translation>
+    </message>
+    <message>
+        <source>No key has this name, so that none runs %1.</source>
+        <translation>Nenhuma tecla tem este nome, portanto nenhuma executa %1.</translation>
+    </message>
+    <message>
+        <source>The keyboard in use has no such key, so that none runs %1.</source>
+        <translation>O teclado em uso não tem esta tecla, portanto nenhuma executa %1.</translation>
+    </message>
+    <message>
+        <source>%1 runs %2, %3 runs %4.</source>
+        <translation>%1 executa %2, %3 executa %4.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2 of %3 hotkeys.</source>
+        <translation>%1 tem %2 de %3 atalhos.</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyFinding</name>
+    <message>
+        <source>Held twice</source>
+        <translation>Atribuído duas vezes</translation>
+    </message>
+    <message>
+        <source>Ambiguous</source>
+        <translation>Ambíguo</translation>
+    </message>
+    <message>
+        <source>Names no key</source>
+        <translation>Nenhuma tecla</translation>
+    </message>
+    <message>
+        <source>Not on the keyboard</source>
+        <translation>Ausente no teclado</translation>
+    </message>
+    <message>
+        <source>Shadowed</source>
+        <translation>Encoberto</translation>
+    </message>
+    <message>
+        <source>Taken by the desktop</source>
+        <translation>Usado pela área de trabalho</translation>
+    </message>
+    <message>
+        <source>Hotkey lost</source>
+        <translation>Atalho perdido</translation>
+    </message>
+    <message>
+        <source>Taken by text fields</source>
+        <translation>Usado por campos de texto</translation>
+    </message>
+    <message>
+        <source>Differs by keypad only</source>
+        <translation>Difere só pelo teclado numérico</translation>
+    </message>
+    <message>
+        <source>Differs by Shift only</source>
+        <translation>Difere só por Shift</translation>
+    </message>
+    <message>
+        <source>Close to the limit</source>
+        <translation>Perto do limite</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Observação</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyReservation</name>
+    <message>
+        <source>Close window</source>
+        <translation>Fechar janela</translation>
+    </message>
+    <message>
+        <source>Switch windows</source>
+        <translation>Alternar janelas</translation>
+    </message>
+    <message>
+        <source>Window menu</source>
+        <translation>Menu da janela</translation>
+    </message>
+    <message>
+        <source>Move or resize window</source>
+        <translation>Mover ou redimensionar janela</translation>
+    </message>
+    <message>
+        <source>Hide or minimize window</source>
+        <translation>Ocultar ou minimizar janela</translation>
+    </message>
+    <message>
+        <source>Show all windows</source>
+        <translation>Mostrar todas as janelas</translation>
+    </message>
+    <message>
+        <source>Show the desktop</source>
+        <translation>Mostrar a área de trabalho</translation>
+    </message>
+    <message>
+        <source>Switch workspace</source>
+        <translation>Alternar espaço de trabalho</translation>
+    </message>
+    <message>
+        <source>Move window to a workspace</source>
+        <translation>Mover janela para um espaço de trabalho</translation>
+    </message>
+    <message>
+        <source>Search or start a program</source>
+        <translation>Pesquisar ou iniciar um programa</translation>
+    </message>
+    <message>
+        <source>Open a terminal</source>
+        <translation>Abrir um terminal</translation>
+    </message>
+    <message>
+        <source>Log out or lock the screen</source>
+        <translation>Sair da sessão ou bloquear a tela</translation>
+    </message>
+    <message>
+        <source>Task manager or force quit</source>
+        <translation>Gerenciador de tarefas ou encerramento forçado</translation>
+    </message>
+    <message>
+        <source>Picture of the screen</source>
+        <translation>Captura de tela</translation>
+    </message>
+    <message>
+        <source>Switch to a text console</source>
+        <translation>Alternar para um console de texto</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Acessibilidade</translation>
+    </message>
+    <message>
+        <source>Cut, copy or paste</source>
+        <translation>Recortar, copiar ou colar</translation>
+    </message>
+    <message>
+        <source>Undo or redo</source>
+        <translation>Desfazer ou refazer</translation>
+    </message>
+    <message>
+        <source>Select text</source>
+        <translation>Selecionar texto</translation>
+    </message>
+    <message>
+        <source>Delete text</source>
+        <translation>Excluir texto</translation>
+    </message>
+    <message>
+        <source>Move the text cursor</source>
+        <translation>Mover o cursor de texto</translation>
+    </message>
+    <message>
+        <source>KDE: System Settings &gt; Keyboard &gt; Shortcuts</source>
+        <translation>KDE: Configurações do sistema &gt; Teclado &gt; Atalhos</translation>
+    </message>
+    <message>
+        <source>GNOME: Settings &gt; Keyboard</source>
+        <translation>GNOME: Configurações &gt; Teclado</translation>
+    </message>
+    <message>
+        <source>macOS: System Settings &gt; Keyboard &gt; Keyboard Shortcuts</source>
+        <translation>macOS: Ajustes do Sistema &gt; Teclado &gt; Atalhos de Teclado</translation>
+    </message>
+    <message>
+        <source>Text fields of Qt</source>
+        <translation>Campos de texto do Qt</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>Campos de texto</translation>
+    </message>
+    <message>
+        <source>Windows: built into the system</source>
+        <translation>Windows: integrado ao sistema</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>

@@ -13,6 +13,239 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyAudit</name>
+    <message>
+        <source>In %1 this key runs %2, never %3.</source>
+        <translation>在 %1 中，此按键执行 %2，从不执行 %3。</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs nothing, since these count there equally: %1.</source>
+        <translation>在其他位置不执行任何操作，因为以下各项同等有效：%1。</translation>
+    </message>
+    <message>
+        <source>This key runs nothing, since these count everywhere equally: %1.</source>
+        <translation>此按键不执行任何操作，因为以下各项在任何位置都同等有效：%1。</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1.</source>
+        <translation>在其他位置执行 %1。</translation>
+    </message>
+    <message>
+        <source>Elsewhere it runs %1, never %2.</source>
+        <translation>在其他位置执行 %1，从不执行 %2。</translation>
+    </message>
+    <message>
+        <source>Everywhere this key runs %1, never %2.</source>
+        <translation>在任何位置，此按键都执行 %1，从不执行 %2。</translation>
+    </message>
+    <message>
+        <source>In %1 this key runs %2.</source>
+        <translation>在 %1 中，此按键执行 %2。</translation>
+    </message>
+    <message>
+        <source>While text is typed, this key does not run %1: %2.</source>
+        <translation>输入文本时，此按键不执行 %1：%2。</translation>
+    </message>
+    <message>
+        <source>A desktop may take this key before it runs %1: %2.</source>
+        <translation>桌面可能会在此按键执行 %1 之前将其占用：%2。</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2.</source>
+        <translation>%1 已失去 %2。</translation>
+    </message>
+    <message>
+        <source>%1 has lost %2, and %3 has it now.</source>
+        <translation>%1 已失去 %2，现由 %3 使用。</translation>
+    </message>
+    <message>
+        <source>No key has this name, so that none runs %1.</source>
+        <translation>没有此名称的按键，因此无法执行 %1。</translation>
+    </message>
+    <message>
+        <source>The keyboard in use has no such key, so that none runs %1.</source>
+        <translation>当前键盘没有此按键，因此无法执行 %1。</translation>
+    </message>
+    <message>
+        <source>%1 runs %2, %3 runs %4.</source>
+        <translation>%1 执行 %2，%3 执行 %4。</translation>
+    </message>
+    <message>
+        <source>%1 holds %2 of %3 hotkeys.</source>
+        <translation>%1 有 %2 个快捷键，上限为 %3 个。</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyFinding</name>
+    <message>
+        <source>Held twice</source>
+        <translation>重复指定</translation>
+    </message>
+    <message>
+        <source>Ambiguous</source>
+        <translation>有歧义</translation>
+    </message>
+    <message>
+        <source>Names no key</source>
+        <translation>无此按键</translation>
+    </message>
+    <message>
+        <source>Not on the keyboard</source>
+        <translation>键盘上没有</translation>
+    </message>
+    <message>
+        <source>Shadowed</source>
+        <translation>被遮蔽</translation>
+    </message>
+    <message>
+        <source>Taken by the desktop</source>
+        <translation>被桌面占用</translation>
+    </message>
+    <message>
+        <source>Hotkey lost</source>
+        <translation>失去快捷键</translation>
+    </message>
+    <message>
+        <source>Taken by text fields</source>
+        <translation>被文本框占用</translation>
+    </message>
+    <message>
+        <source>Differs by keypad only</source>
+        <translation>仅小键盘不同</translation>
+    </message>
+    <message>
+        <source>Differs by Shift only</source>
+        <translation>仅 Shift 不同</translation>
+    </message>
+    <message>
+        <source>Close to the limit</source>
+        <translation>接近上限</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::HotkeyReservation</name>
+    <message>
+        <source>Close window</source>
+        <translation>关闭窗口</translation>
+    </message>
+    <message>
+        <source>Switch windows</source>
+        <translation>切换窗口</translation>
+    </message>
+    <message>
+        <source>Window menu</source>
+        <translation>窗口菜单</translation>
+    </message>
+    <message>
+        <source>Move or resize window</source>
+        <translation>移动窗口或调整其大小</translation>
+    </message>
+    <message>
+        <source>Hide or minimize window</source>
+        <translation>隐藏或最小化窗口</translation>
+    </message>
+    <message>
+        <source>Show all windows</source>
+        <translation>显示所有窗口</translation>
+    </message>
+    <message>
+        <source>Show the desktop</source>
+        <translation>显示桌面</translation>
+    </message>
+    <message>
+        <source>Switch workspace</source>
+        <translation>切换工作区</translation>
+    </message>
+    <message>
+        <source>Move window to a workspace</source>
+        <translation>将窗口移到工作区</translation>
+    </message>
+    <message>
+        <source>Search or start a program</source>
+        <translation>搜索或启动程序</translation>
+    </message>
+    <message>
+        <source>Open a terminal</source>
+        <translation>打开终端</translation>
+    </message>
+    <message>
+        <source>Log out or lock the screen</source>
+        <translation>注销或锁定屏幕</translation>
+    </message>
+    <message>
+        <source>Task manager or force quit</source>
+        <translation>任务管理器或强制退出</translation>
+    </message>
+    <message>
+        <source>Picture of the screen</source>
+        <translation>屏幕截图</translation>
+    </message>
+    <message>
+        <source>Switch to a text console</source>
+        <translation>切换到文本控制台</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>辅助功能</translation>
+    </message>
+    <message>
+        <source>Cut, copy or paste</source>
+        <translation>剪切、复制或粘贴</translation>
+    </message>
+    <message>
+        <source>Undo or redo</source>
+        <translation>撤销或重做</translation>
+    </message>
+    <message>
+        <source>Select text</source>
+        <translation>选择文本</translation>
+    </message>
+    <message>
+        <source>Delete text</source>
+        <translation>删除文本</translation>
+    </message>
+    <message>
+        <source>Move the text cursor</source>
+        <translation>移动文本光标</translation>
+    </message>
+    <message>
+        <source>KDE: System Settings &gt; Keyboard &gt; Shortcuts</source>
+        <translation>KDE：系统设置 &gt; 键盘 &gt; 快捷键</translation>
+    </message>
+    <message>
+        <source>GNOME: Settings &gt; Keyboard</source>
+        <translation>GNOME：设置 &gt; 键盘</translation>
+    </message>
+    <message>
+        <source>macOS: System Settings &gt; Keyboard &gt; Keyboard Shortcuts</source>
+        <translation>macOS：系统设置 &gt; 键盘 &gt; 键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Text fields of Qt</source>
+        <translation>Qt 的文本框</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>文本框</translation>
+    </message>
+    <message>
+        <source>Windows: built into the system</source>
+        <translation>Windows：系统内置</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>

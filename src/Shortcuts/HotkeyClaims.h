@@ -36,6 +36,11 @@ public:
 
     /// What the action may use: its keys in the order in which it was given them, then Return.
     QList<QKeySequence> keysOf(const ActionIdentifier &identifier) const;
+    /// The action of the context that may use the key; the empty identifier for none.
+    ActionIdentifier holderOf(const Context &context, const QKeySequence &key) const;
+
+    /// The key with Return in the place of Enter; empty when there is none in it.
+    static QKeySequence withReturn(const QKeySequence &key);
 
 private:
     /// True for Return in the place of Enter.

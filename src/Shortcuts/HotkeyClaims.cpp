@@ -2,21 +2,6 @@
 
 namespace CUI {
 
-namespace {
-
-/// The key with Return in the place of Enter; empty when there is none in it.
-QKeySequence withReturn(const QKeySequence &key)
-{
-    constexpr auto modifiers = static_cast<unsigned>(Qt::KeyboardModifierMask);
-    const auto combination = key.isEmpty() ? 0U : static_cast<unsigned>(key[0]);
-    if (key.count() != 1 || (combination & ~modifiers) != Qt::Key_Enter
-        || (combination & Qt::KeypadModifier) != 0)
-        return {};
-    return QKeySequence(static_cast<int>(Qt::Key_Return | (combination & modifiers)));
-}
-
-} // namespace
-
 std::vector<ActionIdentifier> HotkeyClaims::set(const ActionIdentifier &identifier,
                                                 const Context &context,
                                                 const QList<QKeySequence> &keys)
@@ -76,6 +61,22 @@ QList<QKeySequence> HotkeyClaims::keysOf(const ActionIdentifier &identifier) con
             keys.append(key);
     }
     return keys;
+}
+
+ActionIdentifier HotkeyClaims::holderOf(const Context &context, const QKeySequence &key) const
+{
+    const auto place = m_claimants.find({context, key});
+    return place == m_claimants.end() ? ActionIdentifier() : place->second.begin()->second;
+}
+
+QKeySequence HotkeyClaims::withReturn(const QKeySequence &key)
+{
+    constexpr auto modifiers = static_cast<unsigned>(Qt::KeyboardModifierMask);
+    const auto combination = key.isEmpty() ? 0U : static_cast<unsigned>(key[0]);
+    if (key.count() != 1 || (combination & ~modifiers) != Qt::Key_Enter
+        || (combination & Qt::KeypadModifier) != 0)
+        return {};
+    return QKeySequence(static_cast<int>(Qt::Key_Return | (combination & modifiers)));
 }
 
 } // namespace CUI

@@ -1,0 +1,249 @@
+#include "HotkeyReservation.h"
+
+#include "KeyNames.h"
+
+#include <QCoreApplication>
+#include <QKeySequence>
+
+#include <algorithm>
+
+namespace CUI {
+
+namespace {
+
+using System = HotkeyReservation::System;
+
+constexpr int shift = Qt::ShiftModifier;
+constexpr int ctrl = Qt::ControlModifier;
+constexpr int alt = Qt::AltModifier;
+constexpr int meta = Qt::MetaModifier;
+
+// Each is used by several rows, and has one translation.
+constexpr const char closeWindow[] = QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Close window");
+constexpr const char switchWindows[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Switch windows");
+constexpr const char windowMenu[] = QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Window menu");
+constexpr const char arrangeWindow[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Move or resize window");
+constexpr const char hideWindow[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Hide or minimize window");
+constexpr const char allWindows[] = QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Show all windows");
+constexpr const char showDesktop[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Show the desktop");
+constexpr const char switchDesktop[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Switch workspace");
+constexpr const char moveToDesktop[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Move window to a workspace");
+constexpr const char startProgram[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Search or start a program");
+constexpr const char terminal[] = QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Open a terminal");
+constexpr const char endSession[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Log out or lock the screen");
+constexpr const char endProgram[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Task manager or force quit");
+constexpr const char screenshot[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Picture of the screen");
+constexpr const char console[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Switch to a text console");
+constexpr const char accessibility[] = QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Accessibility");
+constexpr const char clipboard[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Cut, copy or paste");
+constexpr const char undoRedo[] = QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Undo or redo");
+constexpr const char selectText[] = QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Select text");
+constexpr const char deleteText[] = QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Delete text");
+constexpr const char moveCursor[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Move the text cursor");
+
+/// A key, or the keys from it up to another one.
+struct Row {
+    System system;
+    int first;
+    const char *use;
+    int last = 0;
+};
+
+constexpr Row rows[] = {
+        {System::Windows, alt | Qt::Key_F4, closeWindow},
+        {System::Windows, alt | Qt::Key_Tab, switchWindows},
+        {System::Windows, alt | shift | Qt::Key_Tab, switchWindows},
+        {System::Windows, ctrl | alt | Qt::Key_Tab, switchWindows},
+        {System::Windows, meta | Qt::Key_Tab, switchWindows},
+        {System::Windows, alt | Qt::Key_Escape, switchWindows},
+        {System::Windows, alt | Qt::Key_Space, windowMenu},
+        {System::Windows, ctrl | Qt::Key_Escape, startProgram},
+        {System::Windows, meta | Qt::Key_R, startProgram},
+        {System::Windows, meta | Qt::Key_S, startProgram},
+        {System::Windows, meta | Qt::Key_D, showDesktop},
+        {System::Windows, meta | Qt::Key_M, hideWindow},
+        {System::Windows, meta | Qt::Key_L, endSession},
+        {System::Windows, ctrl | alt | Qt::Key_Delete, endSession},
+        {System::Windows, ctrl | shift | Qt::Key_Escape, endProgram},
+        {System::Windows, Qt::Key_Print, screenshot},
+        {System::Windows, alt | Qt::Key_Print, screenshot},
+        {System::Windows, meta | shift | Qt::Key_S, screenshot},
+
+        {System::Kde, alt | Qt::Key_F4, closeWindow},
+        {System::Kde, alt | Qt::Key_Tab, switchWindows},
+        {System::Kde, alt | shift | Qt::Key_Tab, switchWindows},
+        {System::Kde, alt | Qt::Key_QuoteLeft, switchWindows},
+        {System::Kde, alt | Qt::Key_F3, windowMenu},
+        {System::Kde, alt | Qt::Key_F2, startProgram},
+        {System::Kde, alt | Qt::Key_Space, startProgram},
+        {System::Kde, ctrl | Qt::Key_F7, allWindows},
+        {System::Kde, ctrl | Qt::Key_F9, allWindows},
+        {System::Kde, ctrl | Qt::Key_F10, allWindows},
+        {System::Kde, ctrl | Qt::Key_F12, showDesktop},
+        {System::Kde, meta | Qt::Key_D, showDesktop},
+        {System::Kde, ctrl | Qt::Key_F1, switchDesktop, ctrl | Qt::Key_F4},
+        {System::Kde, ctrl | alt | Qt::Key_T, terminal},
+        {System::Kde, meta | Qt::Key_L, endSession},
+        {System::Kde, ctrl | alt | Qt::Key_Delete, endSession},
+        {System::Kde, Qt::Key_Print, screenshot},
+        {System::Kde, shift | Qt::Key_Print, screenshot},
+        {System::Kde, ctrl | alt | Qt::Key_F1, console, ctrl | alt | Qt::Key_F12},
+
+        {System::Gnome, alt | Qt::Key_F4, closeWindow},
+        {System::Gnome, alt | Qt::Key_Tab, switchWindows},
+        {System::Gnome, alt | shift | Qt::Key_Tab, switchWindows},
+        {System::Gnome, alt | Qt::Key_QuoteLeft, switchWindows},
+        {System::Gnome, alt | Qt::Key_Escape, switchWindows},
+        {System::Gnome, alt | Qt::Key_F6, switchWindows},
+        {System::Gnome, ctrl | alt | Qt::Key_Tab, switchWindows},
+        {System::Gnome, ctrl | alt | Qt::Key_Escape, switchWindows},
+        {System::Gnome, alt | Qt::Key_Space, windowMenu},
+        {System::Gnome, alt | Qt::Key_F7, arrangeWindow},
+        {System::Gnome, alt | Qt::Key_F8, arrangeWindow},
+        {System::Gnome, alt | Qt::Key_F10, arrangeWindow},
+        {System::Gnome, meta | Qt::Key_H, hideWindow},
+        {System::Gnome, alt | Qt::Key_F2, startProgram},
+        {System::Gnome, ctrl | alt | Qt::Key_Left, switchDesktop},
+        {System::Gnome, ctrl | alt | Qt::Key_Right, switchDesktop},
+        {System::Gnome, ctrl | alt | shift | Qt::Key_Left, moveToDesktop},
+        {System::Gnome, ctrl | alt | shift | Qt::Key_Right, moveToDesktop},
+        {System::Gnome, meta | Qt::Key_L, endSession},
+        {System::Gnome, ctrl | alt | Qt::Key_Delete, endSession},
+        {System::Gnome, Qt::Key_Print, screenshot},
+        {System::Gnome, shift | Qt::Key_Print, screenshot},
+        {System::Gnome, alt | Qt::Key_Print, screenshot},
+        {System::Gnome, ctrl | alt | shift | Qt::Key_R, screenshot},
+        {System::Gnome, ctrl | alt | Qt::Key_F1, console, ctrl | alt | Qt::Key_F12},
+
+        {System::MacOs, ctrl | Qt::Key_Tab, switchWindows},
+        {System::MacOs, ctrl | shift | Qt::Key_Tab, switchWindows},
+        {System::MacOs, ctrl | Qt::Key_QuoteLeft, switchWindows},
+        {System::MacOs, ctrl | Qt::Key_H, hideWindow},
+        {System::MacOs, ctrl | alt | Qt::Key_H, hideWindow},
+        {System::MacOs, ctrl | Qt::Key_M, hideWindow},
+        {System::MacOs, meta | Qt::Key_Up, allWindows},
+        {System::MacOs, meta | Qt::Key_Down, allWindows},
+        {System::MacOs, Qt::Key_F11, showDesktop},
+        {System::MacOs, ctrl | alt | Qt::Key_D, showDesktop},
+        {System::MacOs, meta | Qt::Key_Left, switchDesktop},
+        {System::MacOs, meta | Qt::Key_Right, switchDesktop},
+        {System::MacOs, ctrl | Qt::Key_Space, startProgram},
+        {System::MacOs, ctrl | alt | Qt::Key_Space, startProgram},
+        {System::MacOs, ctrl | shift | Qt::Key_Q, endSession},
+        {System::MacOs, ctrl | meta | Qt::Key_Q, endSession},
+        {System::MacOs, ctrl | alt | Qt::Key_Escape, endProgram},
+        {System::MacOs, ctrl | shift | Qt::Key_3, screenshot, ctrl | shift | Qt::Key_5},
+        {System::MacOs, ctrl | Qt::Key_F5, accessibility},
+        {System::MacOs, ctrl | alt | Qt::Key_F5, accessibility},
+
+        {System::TextFields, ctrl | Qt::Key_C, clipboard},
+        {System::TextFields, ctrl | Qt::Key_X, clipboard},
+        {System::TextFields, ctrl | Qt::Key_V, clipboard},
+        {System::TextFields, ctrl | Qt::Key_Insert, clipboard},
+        {System::TextFields, shift | Qt::Key_Insert, clipboard},
+        {System::TextFields, shift | Qt::Key_Delete, clipboard},
+        {System::TextFields, ctrl | Qt::Key_Z, undoRedo},
+        {System::TextFields, ctrl | shift | Qt::Key_Z, undoRedo},
+        {System::TextFields, ctrl | Qt::Key_Y, undoRedo},
+        {System::TextFields, ctrl | Qt::Key_A, selectText},
+        {System::TextFields, shift | Qt::Key_Home, selectText, shift | Qt::Key_PageDown},
+        {System::TextFields, ctrl | shift | Qt::Key_Home, selectText,
+         ctrl | shift | Qt::Key_PageDown},
+        {System::TextFields, Qt::Key_Delete, deleteText},
+        {System::TextFields, Qt::Key_Backspace, deleteText},
+        {System::TextFields, ctrl | Qt::Key_Delete, deleteText},
+        {System::TextFields, ctrl | Qt::Key_Backspace, deleteText},
+        {System::TextFields, Qt::Key_Home, moveCursor, Qt::Key_PageDown},
+        {System::TextFields, ctrl | Qt::Key_Home, moveCursor, ctrl | Qt::Key_Down},
+};
+
+QString translated(const char *sourceText)
+{
+    return QCoreApplication::translate("CUI::HotkeyReservation", sourceText);
+}
+
+QString sourceOf(System system)
+{
+    switch (system) {
+    case System::Windows:
+        return translated(
+                QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Windows: built into the system"));
+    case System::Kde:
+        return translated(QT_TRANSLATE_NOOP("CUI::HotkeyReservation",
+                                            "KDE: System Settings > Keyboard > Shortcuts"));
+    case System::Gnome:
+        return translated(
+                QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "GNOME: Settings > Keyboard"));
+    case System::MacOs:
+        return translated(
+                QT_TRANSLATE_NOOP("CUI::HotkeyReservation",
+                                  "macOS: System Settings > Keyboard > Keyboard Shortcuts"));
+    case System::TextFields:
+        break;
+    }
+    return translated(QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Text fields of Qt"));
+}
+
+HotkeyReservation reservation(const Row &row, int combination)
+{
+    return {row.system, QKeySequence(combination).toString(QKeySequence::PortableText),
+            translated(row.use), sourceOf(row.system)};
+}
+
+} // namespace
+
+std::vector<HotkeyReservation> HotkeyReservation::all()
+{
+    std::vector<HotkeyReservation> all;
+    for (const Row &row : rows) {
+        for (int combination = row.first; combination <= std::max(row.first, row.last);
+             ++combination)
+            all.push_back(reservation(row, combination));
+    }
+    return all;
+}
+
+std::vector<HotkeyReservation> HotkeyReservation::of(const QString &hotkey)
+{
+    std::vector<HotkeyReservation> found;
+    const QKeySequence key = KeyNames::keyOf(hotkey);
+    if (key.count() != 1)
+        return found;
+    for (const Row &row : rows) {
+        if (key[0] >= row.first && key[0] <= std::max(row.first, row.last))
+            found.push_back(reservation(row, key[0]));
+    }
+    return found;
+}
+
+QString HotkeyReservation::nameOf(System system)
+{
+    switch (system) {
+    case System::Windows:
+        return QStringLiteral("Windows");
+    case System::Kde:
+        return QStringLiteral("KDE");
+    case System::Gnome:
+        return QStringLiteral("GNOME");
+    case System::MacOs:
+        return QStringLiteral("macOS");
+    case System::TextFields:
+        break;
+    }
+    return translated(QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Text fields"));
+}
+
+} // namespace CUI
