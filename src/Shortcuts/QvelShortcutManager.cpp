@@ -2,6 +2,7 @@
 
 #include "ICuiActionManager.h"
 #include "KeyNames.h"
+#include "KnownFile.h"
 #include "LazyLog.h"
 #include "RecordedSteps.h"
 #include "ShortcutOwnerIndex.h"
@@ -36,6 +37,7 @@ QvelShortcutManager::QvelShortcutManager(QObject *parent)
       currentShortcuts(initialBuckets),
       baseShortcuts(initialBuckets),
       transformations(std::make_unique<RecordedSteps>()),
+      setFile(std::make_unique<KnownFile>()),
       ownerIndex(std::make_unique<ShortcutOwnerIndex>())
 {
 }
@@ -204,14 +206,33 @@ void QvelShortcutManager::unassignShortcutInternal(const ActionIdentifier &ident
 void QvelShortcutManager::applyTransforms()
 {
     baseShortcuts = currentShortcuts;
+    transformations->forgetRefused();
     if (!transformations->steps().empty())
         dropTransforms();
 }
 
+void QvelShortcutManager::replaceTransforms(const std::vector<ShortcutTransformation> &callersSteps)
+{
+    const RecordedSteps::Steps steps = callersSteps; // the caller's may be the recorded ones
+    const RecordedSteps before = *transformations;
+    currentShortcuts = baseShortcuts;
+    ownerIndex->rebuild(currentShortcuts);
+    transformations->clear();
+    Q_EMIT shortcutTransformsCleared();
+    for (const ShortcutTransformation &step : steps) {
+        if (recordStep(step))
+            applyStep(step);
+    }
+    transformations->reclaimSaved(before);
+    checkModifiedAndEmit();
+}
+
 void QvelShortcutManager::clearTransforms()
 {
-    if (transformations->steps().empty() && !transformations->lacksSavedSteps())
+    if (transformations->steps().empty() && !transformations->lacksSavedSteps()) {
+        transformations->forgetRefused();
         return;
+    }
     currentShortcuts = baseShortcuts;
     ownerIndex->rebuild(currentShortcuts);
     dropTransforms();

@@ -16,6 +16,7 @@
 
 namespace CUI {
 
+class KnownFile;
 class RecordedSteps;
 class ShortcutOwnerIndex;
 
@@ -100,6 +101,15 @@ public:
     /// shortcutTransformsCollapsed() in any case. A start beyond the end changes nothing.
     void collapseTransforms(std::size_t start);
 
+    /// Replaces the recorded steps by @p steps as one unsaved edit: returns to the base hotkeys and
+    /// replays them. Those that the saved steps begin with still count as saved. An assignment to
+    /// an action that already holds six hotkeys is refused, as in loading a set.
+    ///
+    /// Emits shortcutTransformsCleared(), then for each step the signals of
+    /// loadShortcutTransforms(), then shortcutTransformsCollapsed() if there are unsaved steps, and
+    /// a change of the modified state.
+    void replaceTransforms(const std::vector<ShortcutTransformation> &steps);
+
     /// Empties the store. Emits shortcutsUnModified() if there were unsaved edits, then
     /// shortcutsCleared(). When no action has a hotkey, it does nothing at all.
     void clearShortcuts();
@@ -125,20 +135,57 @@ public:
 
     /// Writes the recorded steps as a hotkey set file and makes them the unmodified state. The
     /// steps are cancelled first, even when the file can then not be written. Emits
-    /// shortcutTransformsCollapsed(), then shortcutsUnModified() if there were unsaved edits.
-    /// Returns false, with the old file untouched and the store as modified as before, when it
-    /// cannot be written. If steps that the file has were cancelled with unsaved ones, the store
-    /// then stays modified, whatever is edited, until it is saved, cleared or loaded again.
+    /// shortcutTransformsCollapsed(), then shortcutsUnModified() if there were unsaved edits, then
+    /// shortcutTransformsSaved(). Returns false, with the old file untouched and the store as
+    /// modified as before, when it cannot be written. If steps that the file has were cancelled
+    /// with unsaved ones, the store then stays modified, whatever is edited, until it is saved,
+    /// cleared or loaded again.
     bool saveShortcutTransforms(const QString &path);
 
     /// Replaces the recorded steps by those of a hotkey set file and applies them, as unmodified
     /// state. Returns true when all of it was read. A file that does not follow its schema is
     /// logged as an error and changes nothing; steps before an error inside a file are kept. An
-    /// assignment to an action that already holds six hotkeys is dropped.
+    /// assignment to an action that already holds six hotkeys is not recorded, but stays among
+    /// refusedTransforms().
     ///
     /// Emits what clearTransforms() does, then for each step shortcutUnassigned() and
-    /// shortcutAssigned() as an edit would, and shortcutTransformAdded().
+    /// shortcutAssigned() as an edit would, and shortcutTransformAdded(); in the end
+    /// shortcutTransformsLoaded().
     bool loadShortcutTransforms(const QString &path);
+
+    /// The file that the recorded steps were last loaded from or saved to, whatever edits and saves
+    /// under other names came before; empty when there is none. After loadShortcutConfiguration()
+    /// it is the path of the set, even if the file could not be loaded.
+    QString transformsFile() const;
+    /// True when transformsFile() exists and no longer holds what it held when it was loaded or
+    /// saved, or when there was no such file then. Reads the file, and judges by its contents.
+    bool hasTransformsFileChanged() const;
+    /// Takes the contents that transformsFile() has now as known and keeps the store as it is, so
+    /// that the next save replaces them. The store is modified from now on, until it is saved,
+    /// cleared or loaded. Emits shortcutsModified() if it was not.
+    void keepOverTransformsFile();
+
+    /// The assignments of the loaded set that were refused because their actions held six hotkeys,
+    /// in the order of the file. They are no recorded steps and not in effect.
+    std::vector<ShortcutTransformation> refusedTransforms() const;
+    /// The recorded steps with the refused ones at their places in the file.
+    std::vector<ShortcutTransformation> allTransforms() const;
+    /// Whether saveShortcutTransforms() writes allTransforms(), so that nothing of a set is lost
+    /// that was made with other actions or another base. If not, which is the default, it writes
+    /// the recorded steps alone.
+    void setKeepsRefusedTransforms(bool keeps);
+    /// What was set; false at first.
+    bool keepsRefusedTransforms() const;
+
+    /// Reads the steps of a hotkey set file, without a store: all of them, whatever actions there
+    /// are and however many hotkeys they can hold. False when the file cannot be opened or does not
+    /// follow its schema (logged as an error); @p steps is then unchanged. False as well when the
+    /// file is damaged behind some steps, which @p steps then has.
+    static bool readTransforms(const QString &path, std::vector<ShortcutTransformation> &steps);
+    /// Writes @p steps as they are as a hotkey set file that is not locked. False, with the old
+    /// file untouched, when it cannot be written.
+    static bool writeTransforms(const QString &path,
+                                const std::vector<ShortcutTransformation> &steps);
 
     /// Reads what a hotkey set file says about itself. False when it cannot be opened or does not
     /// follow its schema (logged as an error); @p locked and @p name are then unchanged. A set
@@ -216,6 +263,13 @@ Q_SIGNALS:
     void shortcutTransformsCollapsed();
     /// The store was emptied. Not emitted when it was empty.
     void shortcutsCleared();
+    /// The recorded steps are those of the file @p path, as far as it could be read: the last
+    /// signal of loadShortcutTransforms(), also within loadShortcutConfiguration(). Not emitted for
+    /// sets that are part of the base.
+    void shortcutTransformsLoaded(const QString &path);
+    /// The recorded steps have been saved to the file @p path: the last signal of
+    /// saveShortcutTransforms().
+    void shortcutTransformsSaved(const QString &path);
     /// The first unsaved edit was made. Never emitted twice in a row.
     void shortcutsModified();
     /// No unsaved edit is left. Never emitted twice in a row.
@@ -227,6 +281,7 @@ Q_SIGNALS:
 
 private:
     using ShortcutMap = std::unordered_map<ActionIdentifier, QShortcutsList>;
+    enum class Loaded { Nothing, Part, Everything };
 
     bool assignShortcutInternal(const ActionIdentifier &identifier, const QString &shortcut,
                                 bool userModification, bool checkRoom);
@@ -236,16 +291,18 @@ private:
     void markStepsSaved();
     void checkModifiedAndEmit();
     void dropTransforms();
-    bool writeTransforms(const QString &path) const;
-
-    void applyLoadedStep(const ShortcutTransformation &step);
+    Loaded loadTransforms(const QString &path);
+    bool recordStep(const ShortcutTransformation &step);
+    void applyStep(const ShortcutTransformation &step);
     void loadBaseFiles();
     void assignDefaultAccelerators();
 
     bool modified = false;
     ShortcutMap currentShortcuts;
     ShortcutMap baseShortcuts;
+    bool keepsRefused = false;
     std::unique_ptr<RecordedSteps> transformations;
+    std::unique_ptr<KnownFile> setFile;
     std::unique_ptr<ShortcutOwnerIndex> ownerIndex;
 };
 

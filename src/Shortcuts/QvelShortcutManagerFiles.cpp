@@ -5,6 +5,7 @@
 #include "HotkeySetFile.h"
 #include "ICuiActionManager.h"
 #include "IPathManager.h"
+#include "KnownFile.h"
 #include "LazyLog.h"
 #include "LegacyConversion.h"
 #include "PresetMetadata.h"
@@ -12,6 +13,7 @@
 #include "SaveFileCommit.h"
 #include "XmlError.h"
 
+#include <QBuffer>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -19,6 +21,7 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace CUI {
@@ -55,6 +58,35 @@ void logUnwritable(const QString &path, const QString &shortcut, const ActionIde
                               "that an XML file cannot hold.")
                 .arg(path, shortcut, actionId.toString());
     });
+}
+
+const QString setReadingFailed =
+        QStringLiteral("Loading of transform file failed!\n%2 Line: %3 Column: %4 Offset: %5");
+
+/// False when the file does not follow its schema or cannot be opened.
+bool openSet(QFile &file)
+{
+    return FileValidation::validateShortcutsTransforms(file.fileName())
+           && file.open(QIODevice::ReadOnly | QIODevice::Text);
+}
+
+/// Writes a hotkey set file as a whole and returns what it holds then, or nothing.
+std::optional<QByteArray> writeSteps(const QString &path,
+                                     const std::vector<ShortcutTransformation> &steps)
+{
+    QSaveFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::WriteOnly))
+        return {};
+    if (const ShortcutTransformation *step = HotkeySetFile::firstUnwritable(steps)) {
+        logUnwritable(path, step->shortcut(), step->actionId());
+        return {};
+    }
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!HotkeySetFile::write(buffer, steps, HotkeySetFile::LockAttribute::WriteUnlocked)
+        || file.write(buffer.data()) != buffer.size() || !commitWhole(file))
+        return {};
+    return buffer.data();
 }
 
 // The base hotkeys as the file holds them: ordered, so that two versions compare line by line.
@@ -140,29 +172,19 @@ bool QvelShortcutManager::saveShortcutTransforms(const QString &callersPath)
     const QString path = callersPath; // slots may change the caller's
     const RecordedSteps::Steps savedSteps = transformations->savedSteps();
     collapseTransforms(0);
-    if (!writeTransforms(path)) {
+    const auto contents = writeSteps(path, keepsRefused ? transformations->withRefusedSteps()
+                                                        : transformations->steps());
+    if (!contents) {
         transformations->reclaimUnsaved(savedSteps, modified);
         return false;
     }
+    *setFile = KnownFile(path, *contents);
     markStepsSaved();
     if (!validateShortcutsTransforms(path))
         qDebug("Generated transformation file doesn't conform to the schema defined in "
                "HotkeyTransformationSchema.xsd.");
+    Q_EMIT shortcutTransformsSaved(path);
     return true;
-}
-
-bool QvelShortcutManager::writeTransforms(const QString &path) const
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-        return false;
-    const std::vector<ShortcutTransformation> &steps = currentTransformations();
-    if (const ShortcutTransformation *step = HotkeySetFile::firstUnwritable(steps)) {
-        logUnwritable(path, step->shortcut(), step->actionId());
-        return false;
-    }
-    return HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::WriteUnlocked)
-           && commitWhole(file);
 }
 
 bool QvelShortcutManager::loadShortcutTransforms(const QString &callersPath)
@@ -170,42 +192,114 @@ bool QvelShortcutManager::loadShortcutTransforms(const QString &callersPath)
     if (callersPath.isEmpty())
         return false;
     const QString path = callersPath; // slots may change the caller's
+    // Read first: what is written to the file meanwhile must not pass for loaded.
+    const KnownFile file(path);
+    const Loaded loaded = loadTransforms(path);
+    if (loaded == Loaded::Nothing)
+        return false;
+    *setFile = file;
+    Q_EMIT shortcutTransformsLoaded(path);
+    return loaded == Loaded::Everything;
+}
+
+QvelShortcutManager::Loaded QvelShortcutManager::loadTransforms(const QString &path)
+{
     logLazily(QvelMessageLog::Info,
               [&] { return QStringLiteral("Loading shortcut transform file '%1'.").arg(path); });
-    if (!validateShortcutsTransforms(path))
-        return false;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return false;
-
+    if (!openSet(file))
+        return Loaded::Nothing;
     clearTransforms();
     const HotkeySetFile::Content content = HotkeySetFile::read(file);
-    for (const ShortcutTransformation &step : content.steps)
-        applyLoadedStep(step);
+    for (const ShortcutTransformation &step : content.steps) {
+        if (!recordStep(step))
+            continue;
+        markStepsSaved();
+        applyStep(step);
+    }
     if (content.error) {
-        logReadingFailed(QStringLiteral("Loading of transform file failed!\n%2 Line: %3 "
-                                        "Column: %4 Offset: %5"),
-                         path, *content.error);
-        return false;
+        logReadingFailed(setReadingFailed, path, *content.error);
+        return Loaded::Part;
     }
     logLazily(QvelMessageLog::Info,
               [] { return QStringLiteral("Transform file loaded successfully."); });
+    return Loaded::Everything;
+}
+
+bool QvelShortcutManager::recordStep(const ShortcutTransformation &step)
+{
+    if (step.kind() == ShortcutTransformation::Assign && !hasRoomForShortcuts(step.actionId())) {
+        transformations->refuse(step);
+        return false;
+    }
+    transformations->append(step);
     return true;
 }
 
-void QvelShortcutManager::applyLoadedStep(const ShortcutTransformation &step)
+void QvelShortcutManager::applyStep(const ShortcutTransformation &step)
 {
-    const bool assigns = step.kind() == ShortcutTransformation::Assign;
-    const ActionIdentifier actionId = step.actionId();
-    if (assigns && !hasRoomForShortcuts(actionId))
-        return;
-    transformations->append(step);
-    markStepsSaved();
-    if (assigns)
-        assignShortcutInternal(actionId, step.shortcut(), true, false);
+    if (step.kind() == ShortcutTransformation::Assign)
+        assignShortcutInternal(step.actionId(), step.shortcut(), true, false);
     else
-        unassignShortcutInternal(actionId, step.shortcut(), true);
+        unassignShortcutInternal(step.actionId(), step.shortcut(), true);
     Q_EMIT shortcutTransformAdded(step);
+}
+
+bool QvelShortcutManager::readTransforms(const QString &path,
+                                         std::vector<ShortcutTransformation> &steps)
+{
+    QFile file(path);
+    if (!openSet(file))
+        return false;
+    const HotkeySetFile::Content content = HotkeySetFile::read(file);
+    steps = content.steps;
+    if (content.error)
+        logReadingFailed(setReadingFailed, path, *content.error);
+    return !content.error;
+}
+
+bool QvelShortcutManager::writeTransforms(const QString &path,
+                                          const std::vector<ShortcutTransformation> &steps)
+{
+    return writeSteps(path, steps).has_value();
+}
+
+QString QvelShortcutManager::transformsFile() const
+{
+    return setFile->path();
+}
+
+bool QvelShortcutManager::hasTransformsFileChanged() const
+{
+    const KnownFile now(setFile->path());
+    return !now.isMissing() && now != *setFile;
+}
+
+void QvelShortcutManager::keepOverTransformsFile()
+{
+    *setFile = KnownFile(setFile->path());
+    transformations->markFileChanged();
+    checkModifiedAndEmit();
+}
+
+std::vector<ShortcutTransformation> QvelShortcutManager::refusedTransforms() const
+{
+    return transformations->refusedSteps();
+}
+
+std::vector<ShortcutTransformation> QvelShortcutManager::allTransforms() const
+{
+    return transformations->withRefusedSteps();
+}
+
+void QvelShortcutManager::setKeepsRefusedTransforms(bool keeps)
+{
+    keepsRefused = keeps;
+}
+
+bool QvelShortcutManager::keepsRefusedTransforms() const
+{
+    return keepsRefused;
 }
 
 bool QvelShortcutManager::peekPresetMetadata(const QString &path, bool &locked, QString &name)
@@ -227,8 +321,8 @@ void QvelShortcutManager::loadShortcutConfiguration(const QString &callersPath)
     clearShortcuts();
     loadBaseFiles();
     assignDefaultAccelerators();
-    if (!path.isEmpty())
-        loadShortcutTransforms(path);
+    *setFile = path.isEmpty() ? KnownFile() : KnownFile(path);
+    loadShortcutTransforms(path);
     if (IPathManager *paths = IPathManager::get())
         paths->setCurrentConfigurationFile(ConfigType::HotkeySet, path);
     Q_EMIT shortcutConfigurationLoaded(path);
@@ -253,7 +347,7 @@ void QvelShortcutManager::loadBaseFiles()
         if (suffix.compare(QLatin1String("hsxb"), Qt::CaseInsensitive) == 0) {
             loadShortcuts(file);
         } else if (suffix.compare(QLatin1String("hsx"), Qt::CaseInsensitive) == 0) {
-            loadShortcutTransforms(file);
+            loadTransforms(file);
             applyTransforms();
         }
     }

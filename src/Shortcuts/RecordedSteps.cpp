@@ -16,6 +16,11 @@ bool concernsSame(const Step &a, const Step &b)
     return a.actionId() == b.actionId() && a.shortcut() == b.shortcut();
 }
 
+bool isSame(const Step &a, const Step &b)
+{
+    return a.kind() == b.kind() && concernsSame(a, b);
+}
+
 struct HashOfSubject {
     std::size_t operator()(const Step *step) const
     {
@@ -31,11 +36,11 @@ struct SameSubject {
 
 } // namespace
 
-void RecordedSteps::cancel(Steps &steps, std::size_t start)
+std::vector<bool> RecordedSteps::cancel(Steps &steps, std::size_t start)
 {
-    if (start >= steps.size())
-        return;
     std::vector<bool> isCancelled(steps.size());
+    if (start >= steps.size())
+        return isCancelled;
     // The steps of one action and hotkey never touch those of another. Of each, at most one is
     // open.
     std::unordered_set<const Step *, HashOfSubject, SameSubject> open;
@@ -59,6 +64,7 @@ void RecordedSteps::cancel(Steps &steps, std::size_t start)
         ++kept;
     }
     steps.resize(kept);
+    return isCancelled;
 }
 
 RecordedSteps::Steps RecordedSteps::savedSteps()
@@ -100,7 +106,11 @@ void RecordedSteps::cancelUnsaved()
 
 void RecordedSteps::cancelFrom(std::size_t start)
 {
-    cancel(m_steps, start);
+    const std::vector<bool> isCancelled = cancel(m_steps, start);
+    for (Refused &refused : m_refused) {
+        const auto end = isCancelled.begin() + static_cast<std::ptrdiff_t>(refused.place);
+        refused.place -= static_cast<std::size_t>(std::count(isCancelled.begin(), end, true));
+    }
     m_touchedActions.reset();
 }
 
@@ -127,16 +137,46 @@ void RecordedSteps::reclaimUnsaved(const Steps &savedSteps, bool isModified)
         return;
     }
     const auto common = std::mismatch(savedSteps.begin(), savedSteps.end(), m_steps.begin(),
-                                      m_steps.end(), [](const Step &a, const Step &b) {
-                                          return a.kind() == b.kind() && concernsSame(a, b);
-                                      });
+                                      m_steps.end(), isSame);
     m_lacksSavedSteps |= common.first != savedSteps.end();
     m_savedCount = static_cast<std::size_t>(common.second - m_steps.begin());
+}
+
+void RecordedSteps::reclaimSaved(RecordedSteps before)
+{
+    reclaimUnsaved(before.savedSteps(), true);
+    const Steps refusedBefore = before.refusedSteps();
+    const Steps refused = refusedSteps();
+    m_lacksSavedSteps |= before.m_lacksSavedSteps
+                         || !std::equal(refusedBefore.begin(), refusedBefore.end(), refused.begin(),
+                                        refused.end(), isSame);
 }
 
 void RecordedSteps::clear()
 {
     *this = RecordedSteps();
+}
+
+void RecordedSteps::refuse(const ShortcutTransformation &step)
+{
+    m_refused.push_back({step, m_steps.size()});
+}
+
+RecordedSteps::Steps RecordedSteps::refusedSteps() const
+{
+    Steps steps;
+    for (const Refused &refused : m_refused)
+        steps.push_back(refused.step);
+    return steps;
+}
+
+RecordedSteps::Steps RecordedSteps::withRefusedSteps() const
+{
+    Steps steps = m_steps;
+    // From the back, so that the places of the others stay right.
+    for (auto refused = m_refused.rbegin(); refused != m_refused.rend(); ++refused)
+        steps.insert(steps.begin() + static_cast<std::ptrdiff_t>(refused->place), refused->step);
+    return steps;
 }
 
 } // namespace CUI

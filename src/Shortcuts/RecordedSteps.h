@@ -11,7 +11,8 @@
 namespace CUI {
 
 /// The recorded edits of a store, oldest first: the saved ones, which the file of the hotkey set
-/// holds, and after them the unsaved ones.
+/// holds, and after them the unsaved ones. Beside them stand the refused steps of the file, which
+/// are not in effect and only keep their places for the next save.
 ///
 /// Opposite steps cancel: a step and the first later one of the opposite kind for the same action
 /// and hotkey are both removed; a repetition of a step is removed by itself. The others keep their
@@ -22,7 +23,8 @@ public:
     using Steps = std::vector<ShortcutTransformation>;
 
     /// Cancels among the steps from index @p start on. A start beyond the end changes nothing.
-    static void cancel(Steps &steps, std::size_t start);
+    /// Returns for each step whether it was removed.
+    static std::vector<bool> cancel(Steps &steps, std::size_t start);
 
     const Steps &steps() const { return m_steps; }
 
@@ -50,17 +52,35 @@ public:
     void cancelFrom(std::size_t start);
     /// All steps are saved.
     void markSaved();
+    /// The file holds something else than the saved steps.
+    void markFileChanged() { m_lacksSavedSteps = true; }
     /// After a save that failed and for which all steps were cancelled: only those that
     /// @p savedSteps begins with still count as saved. @p isModified is the state before the save.
     void reclaimUnsaved(const Steps &savedSteps, bool isModified);
+    /// After all steps were replaced by others: those that the saved ones of @p before begin with
+    /// count as saved.
+    void reclaimSaved(RecordedSteps before);
     void clear();
 
+    /// Keeps a step of the file that cannot be recorded, behind the ones recorded so far.
+    void refuse(const ShortcutTransformation &step);
+    void forgetRefused() { m_refused.clear(); }
+    Steps refusedSteps() const;
+    /// The recorded steps with the refused ones at their places.
+    Steps withRefusedSteps() const;
+
 private:
+    struct Refused {
+        ShortcutTransformation step;
+        std::size_t place; ///< how many recorded steps stand before it
+    };
+
     void clampSaved();
 
     Steps m_steps;
     std::size_t m_savedCount = 0;
     bool m_lacksSavedSteps = false;
+    std::vector<Refused> m_refused; // in the order of their places
     /// The actions of the unsaved steps, once they were asked for. Filtering 10,000 actions by
     /// 1,000 steps takes 51 ms without it.
     std::optional<std::unordered_set<ActionIdentifier>> m_touchedActions;
