@@ -24,6 +24,7 @@ const QString contexts = QStringLiteral("contexts");
 const QString actions = QStringLiteral("actions");
 const QString id = QStringLiteral("id");
 const QString name = QStringLiteral("name");
+const QString everywhere = QStringLiteral("everywhere");
 const QString table = QStringLiteral("table");
 const QString context = QStringLiteral("context");
 const QString category = QStringLiteral("category");
@@ -180,8 +181,11 @@ void readContexts(const QJsonArray &array, HostCatalogue &catalogue, Fault &faul
 {
     std::set<unsigned long> ids;
     for (int i = 0; i < array.size() && !fault.found(); ++i) {
-        const Members members(array.at(i), element(Key::contexts, i), {Key::id, Key::name}, fault);
-        catalogue.contexts.push_back({members.number(Key::id), members.text(Key::name)});
+        const Members members(array.at(i), element(Key::contexts, i),
+                              {Key::id, Key::name, Key::everywhere}, fault);
+        catalogue.contexts.push_back(
+                {members.number(Key::id), members.text(Key::name),
+                 members.has(Key::everywhere) && members.flag(Key::everywhere)});
         if (!ids.insert(catalogue.contexts.back().id).second)
             members.report(Key::id, QStringLiteral("an earlier context has this id"));
     }
@@ -220,6 +224,16 @@ QString lineAndColumn(const QByteArray &json, int offset)
 }
 
 } // namespace
+
+std::vector<unsigned long> HostCatalogue::everywhere() const
+{
+    std::vector<unsigned long> ids;
+    for (const Context &context : contexts) {
+        if (context.everywhere)
+            ids.push_back(context.id);
+    }
+    return ids;
+}
 
 std::optional<HostCatalogue> HostCatalogue::parse(const QByteArray &json, const QString &fileName,
                                                   QString &error)

@@ -17,6 +17,8 @@ struct HostCatalogue {
     struct Context {
         unsigned long id = 0;
         QString name;
+        /// Its hotkeys count wherever the focus is, behind those of the part that has it.
+        bool everywhere = false;
     };
 
     struct Action {
@@ -35,6 +37,9 @@ struct HostCatalogue {
     std::vector<Context> contexts;
     /// In the order of the file, each with an identifier of its own and a context that exists.
     std::vector<Action> actions;
+
+    /// The contexts that count everywhere, in the order in which the application asks them.
+    std::vector<unsigned long> everywhere() const;
 
     /// Reads the JSON text of a catalogue. Nothing when anything in it is wrong; @p error then
     /// holds one line with @p fileName, the place and the reason.

@@ -82,6 +82,8 @@ void HostCatalogueTest::refusesWhatIsWrong_data()
     row("{'id': 3, 'name': 'Viewport'}", "3", " contexts[0]: is not an object");
     row("'id': 1, 'name'", "'id': 3, 'name'", " contexts[1].id: an earlier context has this id");
     row("'id': 3", "'id': '3'", " contexts[0].id: is not a number");
+    row("'name': 'Viewport'", "'name': 'Viewport', 'everywhere': 1",
+        " contexts[0].everywhere: is neither true nor false");
     row("'id': 3", "'id': 3.5", " contexts[0].id: is not a whole number from 0 to 4294967295");
     row("4294967295", "4294967296",
         " actions[2].table: is not a whole number from 0 to 4294967295");

@@ -4,6 +4,7 @@
 #include <UiCustomizations/ICuiActionManager.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
+#include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
 #include <QtTest>
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void orderIsNoChangeButLetterCaseIs();
     void listsNamesThatNeedCare();
     void jsonHoldsWhatTheStoreHolds();
+    void lints();
     void validatesEveryFile();
 
 private:
@@ -141,6 +143,34 @@ void HotkeyCtlShowTest::jsonHoldsWhatTheStoreHolds()
     QCOMPARE(std::size_t(order.size()), host.catalogue().actions.size());
     QCOMPARE(identifiers.size(), order.size());
     QVERIFY(std::is_sorted(order.cbegin(), order.cend()));
+}
+
+void HotkeyCtlShowTest::lints()
+{
+    const ToolHost host;
+    const QString rest = s("; not checked: what the keyboard layout can type\n");
+    QCOMPARE(host.run("lint").done(), s("0 errors, 0 warnings, 3 notes") + rest);
+    const QByteArray catalogue = ToolHost::read(host.path("host/host.json"));
+    host.write("host/host.json",
+               QByteArray(catalogue).replace("\"Editing\"", "\"Editing\", \"everywhere\": true"));
+    host.writeSet("shared.hsx",
+                  step("Assign", "Ctrl+C", "2-copy") + step("Unassign", "Ctrl+X", "1-cut"));
+    QCOMPARE(host.run("lint @/shared.hsx").everything(),
+             s("exit status 1\n"
+               "warning: shadowed Ctrl+C: In View this key runs Copy. Elsewhere it runs Copy.\n"
+               "warning: hotkey-lost Ctrl+X: Cut (Editing) has lost Ctrl+X.\n"
+               "0 errors, 2 warnings, 3 notes")
+                     + rest);
+    const QString json = host.run("--set @/shared.hsx lint --format json").out;
+    const QJsonObject object = QJsonDocument::fromJson(json.toUtf8()).object();
+    QCOMPARE(object[s("notChecked")].toArray(), QJsonArray{s("not-typeable")});
+    const QJsonObject shadowed = object[s("findings")].toArray().at(0).toObject();
+    QCOMPARE(shadowed[s("kind")].toString(), s("shadowed"));
+    QCOMPARE(shadowed[s("actions")].toArray().at(1).toObject()[s("id")].toString(), s("2-copy"));
+    QCOMPARE(shadowed[s("outcomes")].toArray().at(1).toObject()[s("runs")].toString(), s("1-copy"));
+    QCOMPARE(host.run("lint @/shared.hsx --severity error").code, 0);
+    QVERIFY(host.run("lint --severity all").refusal(2).contains(s("not 'all'")));
+    QVERIFY(host.run("lint nothing").refusal().contains(s("nothing")));
 }
 
 void HotkeyCtlShowTest::validatesEveryFile()

@@ -14,9 +14,9 @@ std::optional<QString> optionValue(const QCommandLineParser &line, const QString
 const std::vector<Command> &commands()
 {
     static const std::vector<Command> all = {
-            listCommand(),  ownerCommand(),   assignCommand(), unassignCommand(),
-            stepsCommand(), setsCommand(),    useCommand(),    diffCommand(),
-            showCommand(),  convertCommand(), baseCommand(),   validateCommand(),
+            listCommand(),    ownerCommand(), lintCommand(),     assignCommand(), unassignCommand(),
+            stepsCommand(),   setsCommand(),  useCommand(),      diffCommand(),   showCommand(),
+            convertCommand(), baseCommand(),  validateCommand(),
     };
     return all;
 }

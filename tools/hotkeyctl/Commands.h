@@ -7,6 +7,7 @@
 namespace HotkeyCtl {
 
 Command listCommand();
+Command lintCommand();
 Command ownerCommand();
 Command assignCommand();
 Command unassignCommand();
