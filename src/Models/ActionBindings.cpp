@@ -7,7 +7,8 @@
 #include "NearestHolder.h"
 #include "QvelShortcutManager.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QMenuBar>
 #include <QSignalBlocker>
 #include <QTextDocument>
 
@@ -71,6 +72,20 @@ HotkeyClaims::Context contextOf(const ActionIdentifier &identifier)
     return action != nullptr ? HotkeyClaims::Context(action->contextId()) : std::nullopt;
 }
 
+/// True when the key opens a menu of the active window.
+bool isMenuMnemonic(const QKeySequence &key)
+{
+    const QWidget *window = QApplication::activeWindow();
+    const auto bars = window != nullptr ? window->findChildren<QMenuBar *>() : QList<QMenuBar *>();
+    for (const QMenuBar *bar : bars) {
+        for (const QAction *menu : bar->actions()) {
+            if (menu->isEnabled() && QKeySequence::mnemonic(menu->text()) == key)
+                return true;
+        }
+    }
+    return false;
+}
+
 /// How the files of an application may name the key that was pressed: with what it types by itself
 /// (Ctrl+Shift+=), or with what Shift makes of it (Ctrl++).
 QList<QKeySequence> namesOf(const QKeyEvent &press)
@@ -89,7 +104,9 @@ QList<QKeySequence> namesOf(const QKeyEvent &press)
 } // namespace
 
 ActionBindings::ActionBindings(QObject &owner, QvelShortcutManager *manager)
-    : m_owner(owner), m_manager(manager)
+    : m_owner(owner),
+      m_manager(manager),
+      m_places(owner, [this](unsigned long contextId) { showContext(contextId); })
 {
     followManager();
 }
@@ -172,8 +189,6 @@ void ActionBindings::clear()
 {
     if (!m_manager.isNull())
         m_manager->disconnect(&m_owner);
-    for (const auto &entry : m_widgets)
-        QObject::disconnect(entry.second.death);
     std::vector<std::pair<QPointer<QAction>, Binding>> all;
     for (const auto &entry : m_actions) {
         for (QAction *action : entry.second)
@@ -221,8 +236,10 @@ void ActionBindings::restore(QAction *action, const Binding &binding)
     if (QCoreApplication::instance() == nullptr)
         return; // nobody presses keys any more
     const QPointer<QAction> alive(action);
-    if (!binding.home.isNull())
-        binding.home->removeAction(action);
+    for (const QPointer<QWidget> &home : binding.homes) {
+        if (!home.isNull() && !alive.isNull())
+            home->removeAction(action);
+    }
     if (!alive.isNull())
         action->setShortcutContext(binding.ownContext);
     if (!alive.isNull())
@@ -282,20 +299,34 @@ void ActionBindings::show(const Actions &actions)
 void ActionBindings::place(QAction *action, Binding &binding)
 {
     const QPointer<QAction> alive(action);
-    const QPointer<QWidget> widget(widgetOf(binding.identifier));
-    const Qt::ShortcutContext context =
-            widget.isNull() ? Qt::WindowShortcut : Qt::WidgetWithChildrenShortcut;
-    if (binding.home != widget) {
-        const QPointer<QWidget> old = binding.home;
-        const bool adds = !widget.isNull() && !action->associatedWidgets().contains(widget);
-        binding.home = adds ? widget : nullptr;
-        if (!old.isNull())
-            old->removeAction(action);
-        if (adds && !widget.isNull() && !alive.isNull())
+    using Widgets = ContextPlaces::Widgets;
+    const Widgets *widgets = m_places.widgetsOf(contextOf(binding.identifier));
+    const bool isEverywhere = widgets == nullptr;
+    const Widgets wanted = isEverywhere ? Widgets() : *widgets;
+    const Widgets old = std::exchange(binding.homes, Widgets());
+    const QList<QWidget *> associated = action->associatedWidgets();
+    Widgets added;
+    for (const QPointer<QWidget> &widget : wanted) {
+        const bool isHome = std::find(old.begin(), old.end(), widget) != old.end();
+        if (!isHome && associated.contains(widget))
+            continue; // the application has added it
+        binding.homes.push_back(widget);
+        if (!isHome)
+            added.push_back(widget);
+    }
+    // The binding may be removed from here on.
+    for (const QPointer<QWidget> &home : old) {
+        const bool stays = std::find(wanted.begin(), wanted.end(), home) != wanted.end();
+        if (!stays && !home.isNull() && !alive.isNull())
+            home->removeAction(action);
+    }
+    for (const QPointer<QWidget> &widget : added) {
+        if (!widget.isNull() && !alive.isNull())
             widget->addAction(action);
     }
     if (!alive.isNull())
-        action->setShortcutContext(context);
+        action->setShortcutContext(isEverywhere ? Qt::WindowShortcut
+                                                : Qt::WidgetWithChildrenShortcut);
 }
 
 void ActionBindings::apply(QAction *action, Binding &binding)
@@ -332,27 +363,28 @@ void ActionBindings::noteChange(QAction *action)
 
 // Contexts
 
-void ActionBindings::setContextWidget(unsigned long contextId, QWidget *widget)
+void ActionBindings::setContextWidgets(unsigned long contextId,
+                                       const std::optional<std::vector<QWidget *>> &widgets)
 {
-    ContextWidget &place = m_widgets[contextId];
-    if (place.widget == widget)
-        return;
-    QObject::disconnect(place.death);
-    place.widget = widget;
-    if (widget != nullptr) {
-        place.death = QObject::connect(widget, &QObject::destroyed, &m_owner, [this, contextId] {
-            m_widgets.erase(contextId);
-            refresh();
-        });
-    }
-    refresh();
+    const bool changes =
+            widgets ? m_places.setWidgets(contextId, *widgets) : m_places.removeWidgets(contextId);
+    if (changes)
+        showContext(contextId);
 }
 
-QWidget *ActionBindings::widgetOf(const ActionIdentifier &identifier) const
+void ActionBindings::setContextOrder(const std::vector<unsigned long> &contextIds)
 {
-    const HotkeyClaims::Context context = contextOf(identifier);
-    const auto found = context ? m_widgets.find(*context) : m_widgets.end();
-    return found == m_widgets.end() ? nullptr : found->second.widget;
+    m_places.setOrder(contextIds);
+}
+
+void ActionBindings::showContext(unsigned long contextId)
+{
+    std::vector<ActionIdentifier> identifiers;
+    for (const auto &entry : m_actions) {
+        if (contextOf(entry.first) == contextId)
+            identifiers.push_back(entry.first);
+    }
+    show(actionsOf(identifiers));
 }
 
 QList<QKeySequence> ActionBindings::keysInStore(const ActionIdentifier &identifier) const
@@ -373,33 +405,45 @@ QList<QKeySequence> ActionBindings::keysInStore(const ActionIdentifier &identifi
 
 // Keys
 
-void ActionBindings::notePress(const QKeyEvent &press)
-{
-    m_press.emplace(press);
-}
-
 ActionBindings::Answer ActionBindings::answer(const QAction *action, const QKeySequence &key,
-                                              bool isAmbiguous) const
+                                              bool isAmbiguous,
+                                              const std::optional<QKeyEvent> &press) const
 {
     const ActionIdentifier identifier = identifierOf(action);
-    if (identifier.isEmpty())
+    if (action != nullptr && identifier.isEmpty())
         return {};
     if (!isAmbiguous) {
-        const QWidget *scope = widgetOf(identifier);
-        const bool isStray = scope != nullptr && action->associatedGraphicsWidgets().isEmpty()
-                             && ActionReach::distance(*action, scope) == ActionReach::outOfReach;
+        const bool isStray = action != nullptr
+                             && m_places.widgetsOf(contextOf(identifier)) != nullptr
+                             && action->associatedGraphicsWidgets().isEmpty()
+                             && distanceOf(*action, identifier) == ActionReach::outOfReach;
         return {isStray, nullptr};
     }
     Holders holders = holdersOf({key});
-    // With one holder, the key goes by another name too, or the other one is not bound.
-    if (holders.count < 2 && m_press)
-        holders = holdersOf(namesOf(*m_press) << key);
-    const bool isOurs = holders.count > 1 && !holders.isUnclear;
+    // With one holder, the key has another name as well, or the other holder is not bound.
+    if (holders.count < 2 && press)
+        holders = holdersOf(namesOf(*press) << key);
+    if (holders.isUnclear)
+        return {};
+    const bool isMnemonic = action == nullptr || (holders.count < 2 && isMenuMnemonic(key));
+    const bool isOurs = isMnemonic ? holders.chosen != nullptr : holders.count > 1;
     return {isOurs, isOurs ? holders.chosen : nullptr};
 }
 
-/// Those that Qt may have found, and the one among them that the key is meant for, if that can be
-/// told.
+bool ActionBindings::hasHolder(const QKeyEvent &press) const
+{
+    QList<QKeySequence> keys = namesOf(press);
+    keys << QKeySequence(press.key() | static_cast<int>(press.modifiers()));
+    return holdersOf(keys).chosen != nullptr;
+}
+
+int ActionBindings::distanceOf(const QAction &action, const ActionIdentifier &identifier) const
+{
+    return ActionReach::distance(action, m_places.widgetsOf(contextOf(identifier)));
+}
+
+/// Those that Qt may have found, and the one among them that the key is meant for, if that is
+/// clear.
 ActionBindings::Holders ActionBindings::holdersOf(const QList<QKeySequence> &keys) const
 {
     Holders holders;
@@ -412,10 +456,11 @@ ActionBindings::Holders ActionBindings::holdersOf(const QList<QKeySequence> &key
                                 [&held](const QKeySequence &key) { return held.contains(key); });
             if (!holds || !action->isEnabled())
                 continue;
-            const int steps = ActionReach::distance(*action, widgetOf(identifier));
-            if (steps != ActionReach::outOfReach || ActionReach::isInActiveWindow(*action))
+            const int distance = distanceOf(*action, identifier);
+            if (distance != ActionReach::outOfReach || ActionReach::isInActiveWindow(*action))
                 ++holders.count;
-            if (nearest.offer(steps, contextOf(identifier), identifier))
+            const HotkeyClaims::Context context = contextOf(identifier);
+            if (nearest.offer(distance, context, identifier, m_places.rankOf(context)))
                 holders.chosen = action;
         }
     }

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "ContextPlaces.h"
 #include "HotkeyClaims.h"
 
 #include <QAction>
 #include <QKeyEvent>
-#include <QMetaObject>
 #include <QPointer>
 #include <QWidget>
 
@@ -31,20 +31,24 @@ public:
     void clear();
     ActionIdentifier identifierOf(const QAction *action) const;
 
-    void setContextWidget(unsigned long contextId, QWidget *widget);
+    /// The context acts only in these widgets; in the whole window without a value.
+    void setContextWidgets(unsigned long contextId,
+                           const std::optional<std::vector<QWidget *>> &widgets);
+    void setContextOrder(const std::vector<unsigned long> &contextIds);
 
     /// Reads contexts and hotkeys of all anew.
     void refresh();
-
-    /// Takes note of a key press, before the keys of actions are looked for.
-    void notePress(const QKeyEvent &press);
 
     struct Answer {
         bool isFinal = false; ///< what Qt has found must not be triggered
         QAction *action = nullptr; ///< what must be triggered; null for nothing
     };
-    /// What a key does for which Qt has found @p action, and others too if it is ambiguous.
-    Answer answer(const QAction *action, const QKeySequence &key, bool isAmbiguous) const;
+    /// What a key does for which Qt has found @p action, and others too if it is ambiguous. The
+    /// action is null for the mnemonic of a menu bar. @p press is the last key press.
+    Answer answer(const QAction *action, const QKeySequence &key, bool isAmbiguous,
+                  const std::optional<QKeyEvent> &press) const;
+    /// True when the key press would trigger a bound action.
+    bool hasHolder(const QKeyEvent &press) const;
 
 private:
     using Actions = std::vector<QPointer<QAction>>;
@@ -59,11 +63,7 @@ private:
         // What it got here. Anything else was set by the application meanwhile.
         QList<QKeySequence> keys;
         QString toolTip;
-        QPointer<QWidget> home; // the widget that it was added to
-    };
-    struct ContextWidget {
-        QPointer<QWidget> widget;
-        QMetaObject::Connection death;
+        ContextPlaces::Widgets homes; // the widgets that it was added to
     };
 
     struct Holders {
@@ -86,7 +86,8 @@ private:
     void noteChange(QAction *action);
 
     QList<QKeySequence> keysInStore(const ActionIdentifier &identifier) const;
-    QWidget *widgetOf(const ActionIdentifier &identifier) const;
+    void showContext(unsigned long contextId);
+    int distanceOf(const QAction &action, const ActionIdentifier &identifier) const;
     Holders holdersOf(const QList<QKeySequence> &keys) const;
 
     QObject &m_owner;
@@ -95,9 +96,8 @@ private:
     std::unordered_map<const QAction *, Binding> m_bindings;
     std::unordered_map<ActionIdentifier, std::vector<QAction *>> m_actions; // in binding order
     HotkeyClaims m_claims;
-    std::unordered_map<unsigned long, ContextWidget> m_widgets;
+    ContextPlaces m_places;
     std::set<const QAction *> m_changing; // whose shortcuts and tool tips are being set
-    std::optional<QKeyEvent> m_press; // the last one
 };
 
 } // namespace CUI

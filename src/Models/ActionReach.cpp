@@ -39,14 +39,21 @@ int distanceFromFocus(const QWidget *widget)
 
 } // namespace
 
-int distance(const QAction &action, const QWidget *scope)
+int distance(const QAction &action, const ContextPlaces::Widgets *widgets)
 {
-    if (scope == nullptr)
+    if (widgets == nullptr)
         return isInActiveWindow(action) ? wholeWindow : outOfReach;
-    int nearest = distanceFromFocus(scope);
+    if (widgets->empty())
+        return outOfReach;
+    int nearest = outOfReach;
+    for (const QWidget *widget : *widgets)
+        nearest = std::min(nearest, distanceFromFocus(widget));
     const QList<const QWidget *> places = placesOf(action);
     for (const QWidget *place : places) {
-        if (!place->isAncestorOf(scope))
+        const bool contains =
+                std::any_of(widgets->begin(), widgets->end(),
+                            [place](const QWidget *widget) { return place->isAncestorOf(widget); });
+        if (!contains)
             nearest = std::min(nearest, distanceFromFocus(place));
     }
     return nearest;

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "ContextPlaces.h"
 #include "NearestHolder.h"
 
 class QAction;
-class QWidget;
 
 namespace CUI {
 
@@ -14,10 +14,10 @@ constexpr int outOfReach = NearestHolder::outOfReach;
 constexpr int wholeWindow = NearestHolder::wholeWindow;
 
 /// How far the focus is from where the keys of the action act, in widgets from child to parent. For
-/// an action whose context has the widget @p scope, that is this widget, and the menu bars,
-/// toolbars and other widgets that the action is in. An application may also have added it to a
-/// window that contains the scope; that extends nothing. Without scope it is the active window.
-int distance(const QAction &action, const QWidget *scope);
+/// an action whose context has widgets, these are @p widgets and the menu bars, toolbars and other
+/// widgets that the action is in; those that contain one of @p widgets do not count. Without any
+/// widget it is out of reach. With null, the keys act in the active window.
+int distance(const QAction &action, const ContextPlaces::Widgets *widgets);
 
 /// True when the action is in a menu, toolbar or whatever else of the active window.
 bool isInActiveWindow(const QAction &action);

@@ -2,14 +2,21 @@
 
 #include "ActionBindings.h"
 #include "AdoptedActions.h"
+#include "HeldActions.h"
 #include "LazyLog.h"
 #include "QvelShortcutManager.h"
 #include "WindowActions.h"
 
+#include <QAbstractSpinBox>
 #include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPointer>
 #include <QSet>
 #include <QShortcutEvent>
-#include <QWidget>
+
+#include <algorithm>
 
 namespace CUI {
 
@@ -74,6 +81,38 @@ void warnOfSequences(const QList<QKeySequence> &shortcuts, const ActionIdentifie
     }
 }
 
+bool isMomentary(const ActionIdentifier &identifier)
+{
+    const ICuiActionManager *registry = ICuiActionManager::get();
+    const VelAction *action = registry != nullptr ? registry->getAction(identifier) : nullptr;
+    return action != nullptr && action->momentary();
+}
+
+bool isEditedText(const QObject *receiver)
+{
+    if (const auto *line = qobject_cast<const QLineEdit *>(receiver))
+        return !line->isReadOnly();
+    return qobject_cast<const QAbstractSpinBox *>(receiver) != nullptr;
+}
+
+/// True for the keys with which a person ends or leaves a line of text. Where a text has several
+/// lines, the toolkit keeps them there.
+bool endsText(const QKeyEvent &press)
+{
+    if ((press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != 0)
+        return false;
+    switch (press.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// Gives the actions of one window their identifiers.
 class Names
 {
@@ -116,13 +155,29 @@ private:
 class QvelActionBinder::Private
 {
 public:
-    Private(QvelActionBinder &binder, QvelShortcutManager *manager) : bindings(binder, manager) { }
+    Private(QvelActionBinder &binder, QvelShortcutManager *manager)
+        : bindings(binder, manager), q(binder)
+    {
+    }
 
+    void followApplication(const QvelShortcutManager *manager);
+    void notePress(const QKeyEvent &press) { m_press.emplace(press); }
     void registerAction(ICuiActionManager &registry, const ActionIdentifier &identifier,
                         const WindowActions::Found &found, unsigned long contextId);
 
+    bool isKeptByText(const QObject *receiver, const QKeyEvent &key) const;
+    bool handleShortcut(QObject *receiver, const QShortcutEvent &event);
+    void trigger(QAction *action);
+    void release(const QKeyEvent &key);
+    void releaseAll();
+
     ActionBindings bindings;
     std::vector<std::pair<ActionIdentifier, QString>> defaults;
+
+private:
+    QvelActionBinder &q;
+    HeldActions m_held;
+    std::optional<QKeyEvent> m_press; // the last one
 };
 
 void QvelActionBinder::Private::registerAction(ICuiActionManager &registry,
@@ -150,6 +205,7 @@ void QvelActionBinder::Private::registerAction(ICuiActionManager &registry,
 QvelActionBinder::QvelActionBinder(QvelShortcutManager *manager, QObject *parent)
     : QObject(parent), d(std::make_unique<Private>(*this, manager))
 {
+    d->followApplication(manager);
 }
 
 QvelActionBinder::~QvelActionBinder()
@@ -179,7 +235,23 @@ ActionIdentifier QvelActionBinder::identifierOf(const QAction *action) const
 
 void QvelActionBinder::setContextWidget(unsigned long contextId, QWidget *widget)
 {
-    d->bindings.setContextWidget(contextId, widget);
+    if (widget != nullptr)
+        setContextWidgets(contextId, {widget});
+    else
+        d->bindings.setContextWidgets(contextId, std::nullopt);
+}
+
+void QvelActionBinder::setContextWidgets(unsigned long contextId,
+                                         const std::vector<QWidget *> &widgets)
+{
+    std::vector<QWidget *> places = widgets;
+    places.erase(std::remove(places.begin(), places.end(), nullptr), places.end());
+    d->bindings.setContextWidgets(contextId, places);
+}
+
+void QvelActionBinder::setContextOrder(const std::vector<unsigned long> &contextIds)
+{
+    d->bindings.setContextOrder(contextIds);
 }
 
 unsigned long QvelActionBinder::adopt(QWidget *window, unsigned long tableId,
@@ -234,20 +306,87 @@ void QvelActionBinder::refresh()
     d->bindings.refresh();
 }
 
+// Keys
+
 bool QvelActionBinder::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride) {
-        d->bindings.notePress(*static_cast<const QKeyEvent *>(event));
-    } else if (event->type() == QEvent::Shortcut) {
-        const auto *shortcut = static_cast<const QShortcutEvent *>(event);
-        const auto answer = d->bindings.answer(qobject_cast<const QAction *>(watched),
-                                               shortcut->key(), shortcut->isAmbiguous());
-        if (answer.action != nullptr)
-            answer.action->trigger();
-        if (answer.isFinal)
-            return true;
+    switch (event->type()) {
+    case QEvent::ShortcutOverride: {
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        d->notePress(key);
+        if (!d->isKeptByText(watched, key))
+            return false;
+        event->accept();
+        return true;
     }
-    return QObject::eventFilter(watched, event);
+    case QEvent::Shortcut:
+        return d->handleShortcut(watched, *static_cast<QShortcutEvent *>(event));
+    case QEvent::KeyRelease:
+        d->release(*static_cast<QKeyEvent *>(event));
+        return false;
+    default:
+        return false;
+    }
+}
+
+void QvelActionBinder::Private::followApplication(const QvelShortcutManager *manager)
+{
+    const auto end = [this] { releaseAll(); };
+    if (manager != nullptr)
+        connect(manager, &QvelShortcutManager::shortcutConfigurationAboutToLoad, &q, end);
+    if (qApp == nullptr)
+        return;
+    connect(qApp, &QApplication::focusChanged, &q, end);
+    connect(qApp, &QGuiApplication::applicationStateChanged, &q, end);
+}
+
+bool QvelActionBinder::Private::isKeptByText(const QObject *receiver, const QKeyEvent &key) const
+{
+    return isEditedText(receiver) && endsText(key) && bindings.hasHolder(key);
+}
+
+bool QvelActionBinder::Private::handleShortcut(QObject *receiver, const QShortcutEvent &event)
+{
+    auto *action = qobject_cast<QAction *>(receiver);
+    if (action == nullptr && qobject_cast<QMenuBar *>(receiver) == nullptr)
+        return false;
+    auto answer = bindings.answer(action, event.key(), event.isAmbiguous(), m_press);
+    if (!answer.isFinal && !event.isAmbiguous() && isMomentary(bindings.identifierOf(action)))
+        answer = {true, action};
+    if (answer.action != nullptr)
+        trigger(answer.action);
+    return answer.isFinal;
+}
+
+void QvelActionBinder::Private::trigger(QAction *action)
+{
+    const ActionIdentifier identifier = bindings.identifierOf(action);
+    const bool repeats = m_press && m_press->isAutoRepeat();
+    if (!isMomentary(identifier)) {
+        if (!repeats || action->autoRepeat())
+            action->trigger();
+    } else if (m_press && !repeats && m_held.press(*m_press, identifier)) {
+        Q_EMIT q.pressed(identifier);
+    }
+}
+
+void QvelActionBinder::Private::release(const QKeyEvent &key)
+{
+    // A keyboard that repeats releases the key each time as well.
+    const ActionIdentifier ended = key.isAutoRepeat() ? ActionIdentifier() : m_held.release(key);
+    if (!ended.isEmpty())
+        Q_EMIT q.released(ended);
+}
+
+void QvelActionBinder::Private::releaseAll()
+{
+    const QPointer<QvelActionBinder> alive(&q);
+    for (ActionIdentifier held = m_held.first(); !held.isEmpty(); held = m_held.first()) {
+        m_held.remove(held);
+        Q_EMIT q.released(held);
+        if (alive.isNull())
+            return;
+    }
 }
 
 } // namespace CUI

@@ -45,10 +45,16 @@ class QvelShortcutManager;
 /// the action with the smallest identifier gets it, and where several QActions are bound to one
 /// identifier, the first of them that is enabled and within reach is triggered. Enter stands for
 /// Return as well, which the hotkey editor records by that name, unless another action has Return.
-/// Where actions of several contexts are within reach, the one whose context's
-/// widget is nearest to the keyboard focus is triggered, and one of a context without widget last.
-/// Two contexts that are equally near, and shortcuts that are not bound, are ambiguous as they are
-/// in Qt.
+/// Where actions of several contexts are within reach, the one whose context's widget is nearest to
+/// the keyboard focus is triggered, and one of a context without widget last. setContextOrder()
+/// decides between contexts that are equally near; without it they are ambiguous, and so are
+/// shortcuts that are not bound, as they are in Qt. A hotkey comes before the mnemonic of a menu
+/// bar. While a text is edited, Return, Enter, Escape and Tab belong to the text, with or without
+/// Shift.
+///
+/// An action that is registered as momentary is active while its hotkey is held: pressed() and
+/// released() are emitted, and the QAction is not triggered. A hotkey that is held repeats the
+/// others, where QAction::autoRepeat() is set.
 ///
 /// Manager, actions, widgets and binder may be destroyed in any order. Without the manager, bound
 /// actions keep what they have. A binder that is destroyed unbinds its actions. An action is bound
@@ -94,6 +100,17 @@ public:
     /// its hotkeys act while one of those has the focus. Only those that contain the widget, such
     /// as the window, do not count.
     void setContextWidget(unsigned long contextId, QWidget *widget);
+
+    /// The same with several widgets: the hotkeys of the context act in each of them. Without any
+    /// they act nowhere, until the context has a widget again, or setContextWidget() with null
+    /// gives it the window. So an application that has modes lets one of them act at a time. Null
+    /// widgets are left out. When the last of the widgets has been destroyed, the actions get
+    /// Qt::WindowShortcut.
+    void setContextWidgets(unsigned long contextId, const std::vector<QWidget *> &widgets);
+
+    /// Of contexts that are equally near to the focus, the first in @p contextIds gets the key, and
+    /// those that are not in it come last. Replaces the order of before.
+    void setContextOrder(const std::vector<unsigned long> &contextIds);
     /// @}
 
     /// \name Whole windows
@@ -143,8 +160,18 @@ public Q_SLOTS:
     /// renamed actions after they were bound.
     void refresh();
 
+Q_SIGNALS:
+    /// The hotkey of a momentary action was pressed. Not emitted while the key repeats, nor for a
+    /// second hotkey of the action.
+    void pressed(const CUI::ActionIdentifier &identifier);
+    /// A momentary action ends: its hotkey was released, the keyboard focus has changed, the
+    /// application is no longer active, or a configuration is about to be loaded. Follows each
+    /// pressed() once, unless the binder is destroyed before.
+    void released(const CUI::ActionIdentifier &identifier);
+
 protected:
-    /// Decides what a key triggers where Qt would find it ambiguous or look too far.
+    /// Decides what a key triggers where Qt would find it ambiguous or look too far, and keeps
+    /// track of held keys.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -3,13 +3,16 @@
 #include "ActionIdentifier.h"
 #include "HotkeyClaims.h"
 
+#include <cstddef>
 #include <limits>
+#include <utility>
 
 namespace CUI {
 
 /// Which action a key is meant for when several contexts have one for it: that of the context that
-/// is nearest to the keyboard focus. Within a context the smallest identifier is chosen; between
-/// two contexts that are equally near it cannot be told.
+/// is nearest to the keyboard focus. Of contexts that are equally near, the one of the lowest rank
+/// is chosen; between two of the same rank it is unclear. Within a context the smallest identifier
+/// is chosen.
 class NearestHolder
 {
 public:
@@ -18,17 +21,21 @@ public:
     static constexpr int wholeWindow = outOfReach - 1;
 
     /// Takes an action into account. True when it is the chosen one as far as is known.
-    bool offer(int distance, const HotkeyClaims::Context &context, const ActionIdentifier &action)
+    bool offer(int distance, const HotkeyClaims::Context &context, const ActionIdentifier &action,
+               std::size_t rank = 0)
     {
-        const bool isNearer = distance < m_distance;
-        const bool isEquallyNear = distance == m_distance && distance != outOfReach;
+        if (distance == outOfReach)
+            return false;
+        const auto place = std::make_pair(distance, rank);
+        const bool isNearer = place < m_place;
+        const bool isEquallyNear = place == m_place;
         if (isNearer)
             m_isUnclear = false;
         else if (isEquallyNear && context != m_context)
             m_isUnclear = true;
         if (!isNearer && !(isEquallyNear && action < m_action))
             return false;
-        m_distance = distance;
+        m_place = place;
         m_context = context;
         m_action = action;
         return true;
@@ -40,7 +47,7 @@ public:
     ActionIdentifier action() const { return m_isUnclear ? ActionIdentifier() : m_action; }
 
 private:
-    int m_distance = outOfReach;
+    std::pair<int, std::size_t> m_place{outOfReach, 0}; // distance and rank
     HotkeyClaims::Context m_context;
     ActionIdentifier m_action;
     bool m_isUnclear = false;

@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <QtTest>
@@ -62,6 +63,9 @@ private Q_SLOTS:
     void enterIsReturnAsWell();
     void keysActWhereTheirContextIs();
     void contextWidgetsComeAndGo();
+    void modesActOneAtATime();
+    void momentaryActionsLastWhileTheirKeyIsHeld();
+    void hotkeysComeBeforeMnemonicsAndAfterTexts();
     void aKeyOfAContextIsNeverAmbiguous();
     void loadsTouchEachActionOnce();
     void survivesDeathsInAnyOrder_data();
@@ -387,6 +391,104 @@ void TestActionBinder::contextWidgetsComeAndGo()
     m_binder->refresh();
     QVERIFY(!third->actions().contains(action));
     QCOMPARE(pressed("Ctrl+M"), s("move"));
+}
+
+void TestActionBinder::modesActOneAtATime()
+{
+    QWidget *first = addDock();
+    QWidget *second = addDock();
+    auto *menu = new QMenu(m_window.get()); // which the actions are in while their mode is not on
+    m_window->addAction(menu->menuAction());
+    const auto addToMenu = [&](const ActionIdentifier &id, const char *name) {
+        QAction *action = watched(menu->addAction(s(name)));
+        m_binder->bind(id, action);
+        assign(id, "M");
+        return action;
+    };
+    addToMenu(moveView, "viewport");
+    const QAction *mesh = addToMenu(moveMesh, "mesh");
+    addToMenu(undo, "everywhere");
+    m_binder->setContextWidgets(Viewport, {first, nullptr, second});
+    m_binder->setContextWidgets(Mesh, {});
+    QCOMPARE(pressed("M", {first, second, m_window.get()}), s("viewport viewport everywhere"));
+    QCOMPARE(keysOf(*mesh), s("M")); // which the menu shows
+    m_binder->setContextWidgets(Mesh, {first});
+    m_binder->setContextOrder({Mesh, Viewport});
+    QCOMPARE(pressed("M", {first, second}), s("mesh viewport"));
+    m_binder->setContextOrder({Viewport});
+    QCOMPARE(pressed("M", {first, first}), s("viewport viewport"));
+    m_binder->setContextWidget(Viewport, nullptr);
+    QCOMPARE(pressed("M", {first, second}), s("mesh viewport"));
+    delete first;
+    QCOMPARE(mesh->shortcutContext(), Qt::WindowShortcut);
+}
+
+void TestActionBinder::momentaryActionsLastWhileTheirKeyIsHeld()
+{
+    m_host->registry()->addAction(moveView, s("Pan"), Viewport, QString(), true);
+    QWidget *dock = addDock();
+    QWidget *other = addDock();
+    QStringList log;
+    const auto takeLog = [&log] {
+        return std::exchange(log, QStringList()).join(QLatin1Char(' '));
+    };
+    connect(m_binder.get(), &QvelActionBinder::pressed, this,
+            [&log](const ActionIdentifier &id) { log << id.actionId + s("+"); });
+    connect(m_binder.get(), &QvelActionBinder::released, this,
+            [&log](const ActionIdentifier &id) { log << id.actionId + s("-"); });
+    m_binder->bind(moveView, addAction("pan"));
+    m_binder->bind(undo, addAction("undo"));
+    m_binder->setContextWidget(Viewport, dock);
+    for (const char *key : {"Space", "P"})
+        assign(moveView, key);
+    assign(undo, "U");
+    dock->setFocus();
+    QTest::keyPress(dock, Qt::Key_Space);
+    for (int i = 0; i < 3; ++i) { // as a held key repeats
+        QTest::simulateEvent(dock, false, Qt::Key_Space, Qt::NoModifier, s(" "), true);
+        QTest::simulateEvent(dock, true, Qt::Key_Space, Qt::NoModifier, s(" "), true);
+    }
+    QTest::keyPress(dock, Qt::Key_P);
+    QTest::keyClick(dock, Qt::Key_U);
+    QTest::keyRelease(dock, Qt::Key_Space);
+    QCOMPARE(takeLog(), s("move+"));
+    QTest::keyRelease(dock, Qt::Key_P, Qt::ShiftModifier);
+    QCOMPARE(takeLog(), s("move-"));
+    QCOMPARE(std::exchange(m_triggered, QStringList()), list("undo"));
+
+    const std::function<void()> ends[] = {
+            [&] { other->setFocus(); },
+            [&] { m_store->loadShortcutConfiguration(QString()); },
+    };
+    for (const auto &end : ends) {
+        m_store->assignShortcut(moveView, s("Space"), QString());
+        dock->setFocus();
+        QTest::keyPress(dock, Qt::Key_Space);
+        end();
+        QTest::keyRelease(dock, Qt::Key_Space);
+        QCOMPARE(takeLog(), s("move+ move-"));
+    }
+}
+
+void TestActionBinder::hotkeysComeBeforeMnemonicsAndAfterTexts()
+{
+    auto *bar = new QMenuBar;
+    bar->addMenu(s("&File"))->addAction(s("Open"));
+    m_window->layout()->setMenuBar(bar);
+    auto *field = new QLineEdit;
+    m_window->layout()->addWidget(field);
+    bar->show();
+    field->show();
+    QSignalSpy confirmed(field, &QLineEdit::returnPressed);
+    m_binder->bind(undo, addAction("undo"));
+    for (const char *key : {"Alt+F", "Enter", "F2"})
+        assign(undo, key);
+    const QList<QWidget *> places = {m_window.get(), m_window.get(), field};
+    QCOMPARE(pressed("Alt+F", places), s("undo undo undo"));
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    QCOMPARE(pressed("F2", places), s("undo undo undo"));
+    QCOMPARE(pressed("Return", places), s("undo undo"));
+    QCOMPARE(confirmed.count(), 1);
 }
 
 void TestActionBinder::aKeyOfAContextIsNeverAmbiguous()

@@ -39,7 +39,7 @@ const struct {
         {Store, "src/Shortcuts/HotkeyAudit* src/Shortcuts/HotkeySet* "
                 "src/Shortcuts/ShortcutOwnerIndex.* "
                 "src/Shortcuts/QvelShortcutManager*"},
-        {Widgets, "src/Models/ActionBindings.* src/Models/ActionReach.* "
+        {Widgets, "src/ActionBinder/* src/Models/ActionBindings.* src/Models/ActionReach.* "
                   "src/Models/AdoptedActions.* src/Models/QvelActionBinder.* "
                   "src/Models/QvelMenusWidget.* src/Models/WindowActions.*"},
         {Models, "src/Models/*"},
