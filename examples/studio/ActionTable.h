@@ -5,6 +5,7 @@
 #include <QHash>
 
 #include <functional>
+#include <vector>
 
 namespace Studio {
 
@@ -42,9 +43,15 @@ public:
             entry.hold(held);
         return static_cast<bool>(entry.hold);
     }
-    bool repeats(const CUI::ActionIdentifier &action) const
+    /// The actions that a held key performs again and again.
+    std::vector<CUI::ActionIdentifier> repeating() const
     {
-        return m_entries.value(action.toString()).repeat == Repeat::Yes;
+        std::vector<CUI::ActionIdentifier> actions;
+        for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
+            if (entry->repeat == Repeat::Yes)
+                actions.push_back(CUI::ActionIdentifier::fromString(entry.key()));
+        }
+        return actions;
     }
     int size() const { return m_entries.size(); }
 

@@ -8,17 +8,18 @@
 #include <QThread>
 #include <QWidget>
 
+// Asks the shortcuts first, as the toolkit does for the keys of the window system. Its own test
+// library declares it so.
+QT_BEGIN_NAMESPACE
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject *receiver, ulong timestamp, int key,
+                                               Qt::KeyboardModifiers modifiers,
+                                               const QString &text = QString(),
+                                               bool autorep = false, ushort count = 1);
+QT_END_NAMESPACE
+
 namespace Studio::Gestures {
 
 namespace {
-
-void sendKey(QWidget *widget, QEvent::Type type, int key, Qt::KeyboardModifiers modifiers,
-             const QString &text, bool repeated)
-{
-    QKeyEvent event(type, key, modifiers, text, repeated);
-    event.setAccepted(type != QEvent::ShortcutOverride); // as Qt makes them
-    QCoreApplication::sendEvent(widget, &event);
-}
 
 void sendMouse(QWidget *widget, QEvent::Type type, QPoint place, Qt::MouseButtons held)
 {
@@ -44,14 +45,15 @@ void click(QWidget *widget, QPoint place)
 void pressKey(QWidget *widget, int key, Qt::KeyboardModifiers modifiers, const QString &text,
               bool repeated)
 {
-    // The question whether the key is a shortcut comes before the key.
-    sendKey(widget, QEvent::ShortcutOverride, key, modifiers, text, repeated);
-    sendKey(widget, QEvent::KeyPress, key, modifiers, text, repeated);
+    QKeyEvent event(QEvent::KeyPress, key, modifiers, text, repeated);
+    if (!qt_sendShortcutOverrideEvent(widget, event.timestamp(), key, modifiers, text, repeated))
+        QCoreApplication::sendEvent(widget, &event);
 }
 
 void releaseKey(QWidget *widget, int key, Qt::KeyboardModifiers modifiers)
 {
-    sendKey(widget, QEvent::KeyRelease, key, modifiers, QString(), false);
+    QKeyEvent event(QEvent::KeyRelease, key, modifiers);
+    QCoreApplication::sendEvent(widget, &event);
 }
 
 void tapKey(QWidget *widget, int key, Qt::KeyboardModifiers modifiers, const QString &text)

@@ -1,15 +1,15 @@
 #include "HotkeyActions.h"
 
 #include <UiCustomizations/ICuiActionManager.h>
+#include <UiCustomizations/QvelActionBinder.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
 #include <QKeySequence>
+#include <QWidget>
 
 namespace Studio {
 
 namespace {
-
-using Store = CUI::QvelShortcutManager;
 
 const CUI::VelAction *registered(const CUI::ActionIdentifier &identifier)
 {
@@ -32,20 +32,10 @@ QString plainToolTip(const QString &text)
 
 } // namespace
 
-HotkeyActions::HotkeyActions(Store *manager, QObject *parent) : QObject(parent), m_manager(manager)
+HotkeyActions::HotkeyActions(CUI::QvelActionBinder &binder, const CUI::QvelShortcutManager &manager,
+                             QWidget *window)
+    : QObject(window), m_binder(binder), m_manager(manager), m_window(window)
 {
-    connect(manager, &Store::shortcutAssigned, this,
-            [this](const CUI::ActionIdentifier &id) { refresh(id); });
-    connect(manager, &Store::shortcutUnassigned, this,
-            [this](const CUI::ActionIdentifier &id) { refresh(id); });
-    connect(manager, &Store::shortcutTransformsCleared, this, [this] { refresh(); });
-    connect(manager, &Store::shortcutsCleared, this, [this] { refresh(); });
-    connect(manager, &Store::shortcutConfigurationAboutToLoad, this,
-            [this] { m_isLoading = true; });
-    connect(manager, &Store::shortcutConfigurationLoaded, this, [this] {
-        m_isLoading = false;
-        refresh();
-    });
 }
 
 QAction *HotkeyActions::entry(const CUI::ActionIdentifier &identifier)
@@ -54,63 +44,43 @@ QAction *HotkeyActions::entry(const CUI::ActionIdentifier &identifier)
     if (action == nullptr)
         return nullptr;
     QAction *&entry = m_entries[identifier];
-    if (entry == nullptr) {
-        entry = new QAction(this);
-        entry->setObjectName(identifier.toString());
-        entry->setEnabled(!action->momentary()); // its key has to be held
-        connect(entry, &QAction::triggered, this, [identifier] {
-            if (CUI::ICuiActionManager *registry = CUI::ICuiActionManager::get())
-                registry->triggerAction(identifier);
-        });
-        write(*action, entry);
+    if (entry == nullptr)
+        entry = make(*action);
+    return entry;
+}
+
+QAction *HotkeyActions::make(const CUI::VelAction &action)
+{
+    const CUI::ActionIdentifier identifier = action.identifier();
+    auto *entry = new QAction(escaped(action.name()), this);
+    entry->setObjectName(identifier.toString());
+    entry->setToolTip(plainToolTip(action.name()));
+    entry->setAutoRepeat(false);
+    connect(entry, &QAction::triggered, this, [identifier] {
+        if (CUI::ICuiActionManager *registry = CUI::ICuiActionManager::get())
+            registry->triggerAction(identifier);
+    });
+    m_binder.bind(identifier, entry);
+    if (action.momentary()) {
+        entry->setEnabled(false);
+        auto *key = new QAction(this); // a disabled action has no hotkeys
+        m_window->addAction(key);
+        m_binder.bind(identifier, key);
     }
     return entry;
 }
 
-QStringList HotkeyActions::hotkeyList(const CUI::ActionIdentifier &identifier) const
+QString HotkeyActions::hotkeys(const CUI::ActionIdentifier &identifier) const
 {
     QStringList texts;
-    const auto held = m_manager->getShortcuts().find(identifier);
-    if (held == m_manager->getShortcuts().end())
-        return texts;
+    const auto held = m_manager.getShortcuts().find(identifier);
+    if (held == m_manager.getShortcuts().end())
+        return {};
     for (const QString &shortcut : held->second) {
         texts.append(QKeySequence::fromString(shortcut, QKeySequence::PortableText)
                              .toString(QKeySequence::NativeText));
     }
-    return texts;
-}
-
-QString HotkeyActions::hotkeys(const CUI::ActionIdentifier &identifier) const
-{
-    return hotkeyList(identifier).join(QStringLiteral(", "));
-}
-
-void HotkeyActions::refresh()
-{
-    for (const auto &entry : m_entries)
-        refresh(entry.first);
-}
-
-void HotkeyActions::refresh(const CUI::ActionIdentifier &identifier)
-{
-    const auto entry = m_entries.find(identifier);
-    const CUI::VelAction *action = registered(identifier);
-    if (!m_isLoading && entry != m_entries.end() && action != nullptr)
-        write(*action, entry->second);
-}
-
-void HotkeyActions::write(const CUI::VelAction &action, QAction *entry) const
-{
-    const QStringList hotkeys = hotkeyList(action.identifier());
-    QString text = escaped(action.name());
-    QString toolTip = action.name();
-    if (!hotkeys.isEmpty()) {
-        text += QLatin1Char('\t') + escaped(hotkeys.first());
-        toolTip += QStringLiteral(" (%1)").arg(hotkeys.join(QStringLiteral(", ")));
-    }
-    entry->setText(text);
-    entry->setIconText(escaped(action.name()));
-    entry->setToolTip(plainToolTip(toolTip));
+    return texts.join(QStringLiteral(", "));
 }
 
 } // namespace Studio

@@ -3,44 +3,44 @@
 #include <UiCustomizations/ActionIdentifier.h>
 
 #include <QAction>
-#include <QHash>
 #include <QObject>
 
 #include <unordered_map>
 
+class QWidget;
+
 namespace CUI {
+class QvelActionBinder;
 class QvelShortcutManager;
 class VelAction;
 } // namespace CUI
 
 namespace Studio {
 
-/// The entries of menus and tool bars for the actions of the registry.
-///
-/// They show the hotkeys in effect, and are triggered through the registry. None has a shortcut of
-/// its own: the same key may mean different things in different areas, which menus do not know.
+/// The entries of menus and tool bars for the actions of the registry, which are triggered through
+/// the registry. Their hotkeys come from a binder.
 class HotkeyActions : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Follows @p manager, which it does not own and which must outlive it.
-    explicit HotkeyActions(CUI::QvelShortcutManager *manager, QObject *parent = nullptr);
+    /// Owns none of its arguments; @p window is its parent.
+    HotkeyActions(CUI::QvelActionBinder &binder, const CUI::QvelShortcutManager &manager,
+                  QWidget *window);
 
-    /// The entry of an action, always the same one; null for an action that is not registered.
+    /// The entry of an action, always the same one; null for an action that is not registered. The
+    /// entry of a momentary action is disabled, for its key has to be held.
     QAction *entry(const CUI::ActionIdentifier &identifier);
     /// All hotkeys of an action in the user's language, joined with ", ".
     QString hotkeys(const CUI::ActionIdentifier &identifier) const;
 
 private:
-    void refresh();
-    void refresh(const CUI::ActionIdentifier &identifier);
-    void write(const CUI::VelAction &action, QAction *entry) const;
-    QStringList hotkeyList(const CUI::ActionIdentifier &identifier) const;
+    QAction *make(const CUI::VelAction &action);
 
-    CUI::QvelShortcutManager *m_manager;
+    CUI::QvelActionBinder &m_binder;
+    const CUI::QvelShortcutManager &m_manager;
+    QWidget *m_window;
     std::unordered_map<CUI::ActionIdentifier, QAction *> m_entries;
-    bool m_isLoading = false;
 };
 
 } // namespace Studio

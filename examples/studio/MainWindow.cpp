@@ -1,16 +1,17 @@
 #include "MainWindow.h"
 
 #include "Actions.h"
+#include "AreaFocus.h"
 #include "CommandFinder.h"
 #include "HostActionRegistry.h"
 #include "HotkeyActions.h"
 #include "Icons.h"
-#include "KeyRouter.h"
 #include "MenuBuilder.h"
 #include "SampleHost.h"
 #include "Timeline.h"
 #include "Viewport.h"
 
+#include <UiCustomizations/QvelActionBinder.h>
 #include <UiCustomizations/QvelMessageLogWidget.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
@@ -29,8 +30,9 @@ MainWindow::MainWindow(Host::SampleHost &host, CUI::QvelShortcutManager &store, 
       m_store(store),
       m_document(new Document(this)),
       m_view(new ViewState(this)),
-      m_hotkeyActions(new HotkeyActions(&store, this)),
-      m_router(new KeyRouter(&store, this))
+      m_binder(new CUI::QvelActionBinder(&store, this)),
+      m_hotkeyActions(new HotkeyActions(*m_binder, store, this)),
+      m_areas(new AreaFocus(this))
 {
     setWindowTitle(QStringLiteral("Studio"));
     setWindowIcon(Icons::application());
@@ -51,28 +53,27 @@ MainWindow::MainWindow(Host::SampleHost &host, CUI::QvelShortcutManager &store, 
     Actions::addOutliner(m_table, *this);
     Actions::addRendering(m_table, *this);
     MenuBuilder::build(*this);
+    for (const CUI::ActionIdentifier &action : m_table.repeating()) {
+        if (QAction *entry = m_hotkeyActions->entry(action))
+            entry->setAutoRepeat(true);
+    }
     resize(1400, 900);
     setWorkspace(0);
     statusBar()->showMessage(tr("Ready"));
     m_viewport->setFocus();
     connect(host.registry(), &Host::HostActionRegistry::triggered, this,
             [this](const CUI::ActionIdentifier &action) { perform(action); });
-    connect(m_router, &KeyRouter::activated, this,
-            [this](const CUI::ActionIdentifier &action, bool repeated) {
-                const CUI::VelAction *known = m_host.registry()->getAction(action);
-                if (known->momentary())
-                    hold(action, true);
-                else
-                    perform(action, repeated);
-            });
-    connect(m_router, &KeyRouter::deactivated, this,
+    connect(m_binder, &CUI::QvelActionBinder::pressed, this,
+            [this](const CUI::ActionIdentifier &action) { hold(action, true); });
+    connect(m_binder, &CUI::QvelActionBinder::released, this,
             [this](const CUI::ActionIdentifier &action) { hold(action, false); });
 }
 
-// The router answers the loss of focus that comes with the end of the widgets.
+// Both react to changes of the focus, which the destruction of the views causes.
 MainWindow::~MainWindow()
 {
-    delete m_router;
+    delete m_areas;
+    delete m_binder;
 }
 
 // Actions
@@ -83,10 +84,8 @@ QString MainWindow::nameOf(const CUI::ActionIdentifier &action) const
     return known != nullptr ? known->name() : action.toString();
 }
 
-void MainWindow::perform(const CUI::ActionIdentifier &action, bool repeated)
+void MainWindow::perform(const CUI::ActionIdentifier &action)
 {
-    if (repeated && !m_table.repeats(action))
-        return;
     statusBar()->showMessage(nameOf(action));
     const bool isKnown = m_table.perform(action);
     if (!isKnown)
@@ -134,6 +133,12 @@ void MainWindow::setMode(const QString &name)
     if (index < 0)
         return;
     m_modeBox->setCurrentIndex(index);
+    for (const QString &mode : modes()) {
+        for (unsigned long context : contextsNamed({mode}))
+            m_binder->setContextWidgets(context, mode == name
+                                                         ? std::vector<QWidget *>{m_viewportFrame}
+                                                         : std::vector<QWidget *>());
+    }
     m_view->change([&name](ViewSettings &view) { view.mode = name; });
 }
 

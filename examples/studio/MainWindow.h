@@ -19,15 +19,16 @@ class SampleHost;
 }
 
 namespace CUI {
+class QvelActionBinder;
 class QvelMessageLogWidget;
 class QvelShortcutManager;
 } // namespace CUI
 
 namespace Studio {
 
+class AreaFocus;
 class GraphView;
 class HotkeyActions;
-class KeyRouter;
 class NodeView;
 class Outliner;
 class PropertyPanel;
@@ -57,14 +58,13 @@ public:
     RenderView &renderView() const { return *m_renderView; }
     PropertyPanel &properties() const { return *m_properties; }
     HotkeyActions &hotkeyActions() const { return *m_hotkeyActions; }
-    KeyRouter &router() const { return *m_router; }
+    const AreaFocus &areas() const { return *m_areas; }
     CUI::QvelMessageLogWidget &console() const { return *m_console; }
     const Host::SampleHost &host() const { return m_host; }
     CUI::QvelShortcutManager &store() const { return m_store; }
 
-    /// Performs an action, or tells its name when the application cannot. With @p repeated only
-    /// those are performed that make sense again and again.
-    void perform(const CUI::ActionIdentifier &action, bool repeated = false);
+    /// Performs an action, or shows its name when the application cannot.
+    void perform(const CUI::ActionIdentifier &action);
     void hold(const CUI::ActionIdentifier &action, bool held);
     /// The action that was performed last.
     void performAgain();
@@ -104,15 +104,15 @@ private:
     void showHistory();
     QString nameOf(const CUI::ActionIdentifier &action) const;
     std::vector<unsigned long> contextsNamed(const QStringList &names) const;
-    std::vector<unsigned long> withFallbacks(const QStringList &names) const;
 
     Host::SampleHost &m_host;
     CUI::QvelShortcutManager &m_store;
     ActionTable m_table;
     Document *m_document;
     ViewState *m_view;
+    CUI::QvelActionBinder *m_binder;
     HotkeyActions *m_hotkeyActions;
-    KeyRouter *m_router;
+    AreaFocus *m_areas;
     Viewport *m_viewport = nullptr;
     Outliner *m_outliner = nullptr;
     Timeline *m_timeline = nullptr;

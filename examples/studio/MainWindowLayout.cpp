@@ -1,8 +1,8 @@
+#include "AreaFocus.h"
 #include "Areas.h"
 #include "GraphView.h"
 #include "HotkeyActions.h"
 #include "Icons.h"
-#include "KeyRouter.h"
 #include "MainWindow.h"
 #include "NodeView.h"
 #include "Outliner.h"
@@ -13,6 +13,7 @@
 #include "UvView.h"
 #include "Viewport.h"
 
+#include <UiCustomizations/QvelActionBinder.h>
 #include <UiCustomizations/QvelMessageLogWidget.h>
 
 #include <QComboBox>
@@ -206,31 +207,28 @@ std::vector<unsigned long> MainWindow::contextsNamed(const QStringList &names) c
     return ids;
 }
 
-std::vector<unsigned long> MainWindow::withFallbacks(const QStringList &names) const
-{
-    return contextsNamed(names + Areas::everywhere());
-}
-
 void MainWindow::makeAreas()
 {
-    m_router->addArea(m_viewportFrame, [this] {
-        return withFallbacks(
-                {m_view->get().mode, QStringLiteral("Viewport"), QStringLiteral("Rendering")});
-    });
-    const std::pair<const char *, const char *> docks[] = {
-            {"outlinerDock", "Outliner"},  {"timelineDock", "Timeline"},
-            {"uvDock", "UV Editor"},       {"nodeDock", "Node Graph"},
-            {"graphDock", "Graph Editor"}, {"renderDock", "Rendering"},
-            {"propertyDock", nullptr},     {"consoleDock", nullptr},
-            {"historyDock", nullptr},
+    m_areas->addArea(m_viewportFrame);
+    for (QDockWidget *each : findChildren<QDockWidget *>())
+        m_areas->addArea(each);
+    const std::pair<const char *, std::vector<QWidget *>> places[] = {
+            {"Viewport", {m_viewportFrame}},
+            {"Outliner", {dock("outlinerDock")}},
+            {"Timeline", {dock("timelineDock")}},
+            {"UV Editor", {dock("uvDock")}},
+            {"Node Graph", {dock("nodeDock")}},
+            {"Graph Editor", {dock("graphDock")}},
+            {"Rendering", {m_viewportFrame, dock("renderDock")}},
     };
-    for (const auto &entry : docks) {
-        const QStringList own = entry.second != nullptr
-                                        ? QStringList(QString::fromLatin1(entry.second))
-                                        : QStringList();
-        m_router->addArea(dock(entry.first), [this, own] { return withFallbacks(own); });
+    QStringList order = modes();
+    for (const auto &[name, widgets] : places) {
+        for (unsigned long context : contextsNamed({QString::fromLatin1(name)}))
+            m_binder->setContextWidgets(context, widgets);
+        order << QString::fromLatin1(name);
     }
-    connect(m_router, &KeyRouter::currentAreaChanged, this, &MainWindow::markCurrentArea);
+    m_binder->setContextOrder(contextsNamed(order + Areas::everywhere()));
+    connect(m_areas, &AreaFocus::currentChanged, this, &MainWindow::markCurrentArea);
     markCurrentArea(m_viewportFrame);
 }
 

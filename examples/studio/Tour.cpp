@@ -4,7 +4,6 @@
 #include "DialogAnswers.h"
 #include "Gestures.h"
 #include "HotkeyActions.h"
-#include "KeyRouter.h"
 #include "MainWindow.h"
 #include "NodeView.h"
 #include "StudioSession.h"

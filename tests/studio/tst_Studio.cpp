@@ -1,7 +1,7 @@
+#include "AreaFocus.h"
 #include "CustomizeDialog.h"
 #include "GraphView.h"
 #include "HotkeyActions.h"
-#include "KeyRouter.h"
 #include "MainWindow.h"
 #include "NodeView.h"
 #include "Outliner.h"
@@ -55,8 +55,7 @@ QByteArray digest(MainWindow &window)
 /// What the window system sends while a key is held.
 void sendRepeated(QWidget *widget, QEvent::Type type, Qt::Key key)
 {
-    QKeyEvent event(type, key, Qt::NoModifier, QString(), true);
-    QCoreApplication::sendEvent(widget, &event);
+    QTest::simulateEvent(widget, type == QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
 }
 
 } // namespace
@@ -215,7 +214,7 @@ void StudioTest::clickChoosesTheDock()
     QWidget *timeline = view("timeline");
     QWidget *viewport = view("viewport");
     QTest::mouseClick(timeline, Qt::LeftButton, Qt::NoModifier, QPoint(200, 60));
-    QCOMPARE(window().router().currentArea(), window().dock("timelineDock"));
+    QCOMPARE(window().areas().current(), window().dock("timelineDock"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     QCOMPARE(window().timeline().direction(), 1);
     QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier, QPoint(20, 200));
@@ -291,16 +290,13 @@ void StudioTest::menusFollowTheStore()
     const ActionIdentifier find = {1, s("findCommand")};
     const QAction *undoEntry = window().hotkeyActions().entry(undo);
     const QAction *findEntry = window().hotkeyActions().entry(find);
-    QCOMPARE(undoEntry->text(), s("Undo\tCtrl+Z"));
-    QVERIFY(undoEntry->shortcut().isEmpty());
+    QCOMPARE(undoEntry->shortcut(), QKeySequence(s("Ctrl+Z")));
     store.assignShortcut(find, s("Ctrl+Z"), s("Find Command"));
-    QCOMPARE(undoEntry->text(), s("Undo"));
-    QCOMPARE(findEntry->toolTip(), s("<span>Find Command (F3, Ctrl+Z)</span>"));
+    QVERIFY(!undoEntry->shortcuts().contains(QKeySequence(s("Ctrl+Z"))));
+    QCOMPARE(findEntry->toolTip(), s("<span>Find Command</span> (F3)"));
+    QCOMPARE(window().hotkeyActions().hotkeys(find), s("F3, Ctrl+Z"));
     store.clearTransforms();
-    QVERIFY(undoEntry->text().startsWith(s("Undo\tCtrl+Z")));
-    QCOMPARE(findEntry->text(), s("Find Command\tF3"));
-    store.clearShortcuts();
-    QCOMPARE(undoEntry->text(), s("Undo"));
+    QCOMPARE(undoEntry->shortcut(), QKeySequence(s("Ctrl+Z")));
 }
 
 void StudioTest::otherHost()
@@ -317,8 +313,8 @@ void StudioTest::otherHost()
     QTest::keyClick(view("viewport"), Qt::Key_F);
     QVERIFY(status().startsWith(s("<b>Fill</b> & more (")));
     const QAction *entry = window().hotkeyActions().entry({3, s("fill")});
-    QCOMPARE(entry->text(), s("<b>Fill</b> && more\tF"));
-    QCOMPARE(entry->toolTip(), s("<span>&lt;b&gt;Fill&lt;/b&gt; &amp; more (F)</span>"));
+    QCOMPARE(entry->text(), s("<b>Fill</b> && more"));
+    QCOMPARE(entry->toolTip(), s("<span>&lt;b&gt;Fill&lt;/b&gt; &amp; more</span> (F)"));
     CustomizeDialog *dialog = window().showCustomizeDialog();
     QVERIFY(dialog->isVisible());
     QVERIFY(dialog->close());

@@ -1,4 +1,3 @@
-#include "KeyText.h"
 #include "MeshEditing.h"
 #include "Primitives.h"
 #include "Text.h"
@@ -16,36 +15,8 @@ class StudioPartsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keyTexts_data();
-    void keyTexts();
     void meshStaysClosed();
 };
-
-void StudioPartsTest::keyTexts_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QString>("texts");
-    const auto row = [](const char *name, int key, int modifiers, const char *texts) {
-        QTest::newRow(name) << key << modifiers << texts;
-    };
-    row("letter", Qt::Key_A, Qt::NoModifier, "A");
-    row("bracket", Qt::Key_BraceLeft, Qt::ShiftModifier, "Shift+{|Shift+[|{");
-    row("plus", Qt::Key_Plus, Qt::ShiftModifier, "Shift++|Shift+=|+");
-    row("back tab", Qt::Key_Backtab, Qt::ShiftModifier, "Shift+Tab|Shift+Backtab");
-    row("return", Qt::Key_Return, Qt::NoModifier, "Return|Enter");
-    row("keypad", Qt::Key_Plus, Qt::KeypadModifier, "Num++|+");
-    row("modifier", Qt::Key_Control, Qt::ControlModifier, "");
-}
-
-void StudioPartsTest::keyTexts()
-{
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
-    QFETCH(QString, texts);
-    const QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers));
-    QCOMPARE(KeyText::candidates(event), list(texts.toUtf8()));
-}
 
 // Each edge of a closed surface belongs to two faces that go along it in opposite directions.
 void StudioPartsTest::meshStaysClosed()
