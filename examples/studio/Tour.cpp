@@ -82,7 +82,8 @@ QString Tour::menuText(const QString &action) const
 {
     const QAction *entry =
             window().hotkeyActions().entry(CUI::ActionIdentifier::fromString(action));
-    return entry != nullptr ? entry->text() : QString();
+    return entry != nullptr ? entry->text() + QLatin1Char('\t') + entry->shortcut().toString()
+                            : QString();
 }
 
 QString Tour::currentSet() const
@@ -248,7 +249,7 @@ void Tour::removeAndUndo()
     step(QStringLiteral("Remove takes it from Save Scene"));
     check(owner(ctrlS, fileAndEdit).isEmpty() || owner(ctrlS, fileAndEdit) == QLatin1String("0-"),
           QStringLiteral("nobody has Ctrl+S"));
-    check(menuText(saveScene.toString()) == QLatin1String("Save Scene"),
+    check(menuText(saveScene.toString()) == QLatin1String("Save Scene\t"),
           QStringLiteral("the menu shows Save Scene without a hotkey"));
     check(m_session->store().isUserModified(), QStringLiteral("there is an unsaved edit"));
     m_hands->click("HotkeyEditor_undoRemoveBtn");
