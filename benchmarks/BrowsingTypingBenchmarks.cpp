@@ -1,9 +1,7 @@
 #include "BrowsingRival.h"
 #include "BrowsingStage.h"
 #include "Rows.h"
-#include "SearchPattern.h"
-
-#include <QRegularExpression>
+#include "SearchQuery.h"
 
 #include <cstdio>
 #include <iterator>
@@ -74,14 +72,13 @@ QString faultOfTyping(Stage &stage, SearchScreen &screen)
 /// cell.
 QString faultOfHotkeys(Stage &stage, SearchScreen &screen, const QString &hotkey)
 {
-    const QRegularExpression expression(SearchPattern::ofHotkey(hotkey.split(QLatin1Char('+'))),
-                                        QRegularExpression::CaseInsensitiveOption);
+    const SearchQuery query = SearchQuery::ofHotkey(hotkey, hotkey.split(QLatin1Char('+')));
     int count = 0;
     for (int row = 0; row < stage.size(); ++row) {
-        const QString hotkeys = stage.text(row, QvelActionItemModel::HotkeyColumn);
-        if (!hotkeys.isEmpty()
-            && expression.match(SearchPattern::withoutSeparators(hotkeys)).hasMatch())
-            ++count;
+        SearchText hotkeys(stage.text(row, QvelActionItemModel::HotkeyColumn)
+                                   .replace(QLatin1String(", "), QLatin1String(" ")));
+        hotkeys.isSimple = false; // asks the regular expression
+        count += query.matches(hotkeys) ? 1 : 0;
     }
     screen.type(hotkey);
     const int listed = screen.rowCount();

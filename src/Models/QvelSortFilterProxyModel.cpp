@@ -1,19 +1,17 @@
 #include "QvelSortFilterProxyModel.h"
 
-#include "ActionNameRank.h"
-#include "HotkeyMatcher.h"
-#include "HotkeyOrder.h"
-#include "HotkeyParts.h"
 #include "LanguageWatch.h"
+#include "QvelActionItem.h"
 #include "QvelShortcutManager.h"
-#include "SearchPattern.h"
-#include "SourceRows.h"
+#include "SearchQuery.h"
+#include "SortKeys.h"
 
 #include <QPointer>
 #include <QRegularExpression>
-#include <QStandardItem>
+#include <QStandardItemModel>
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace CUI {
 
@@ -28,8 +26,25 @@ QStringList hotkeysOf(const QString &text)
     return text.split(QLatin1String(", "));
 }
 
-/// What the regular expression of a search asks for.
-enum class Expression { None, OfWords, OfHotkey };
+/// The text of a hotkey cell as a search by hotkey sees it: with blanks between the hotkeys.
+QString withoutSeparators(const QString &hotkeys)
+{
+    static const QRegularExpression separator(QStringLiteral(",\\s+"));
+    if (!hotkeys.contains(QLatin1Char(',')))
+        return hotkeys;
+    QString result = hotkeys;
+    return result.replace(separator, QStringLiteral(" "));
+}
+
+QStringList splitAtPlus(const QString &hotkey)
+{
+    const QLatin1Char plus('+');
+    if (!hotkey.endsWith(plus))
+        return hotkey.split(plus);
+    QString modifiers = hotkey;
+    modifiers.chop(2); // the key and the separator before it, if there is one
+    return modifiers.split(plus) << QString(plus);
+}
 
 /// The columns that decide when the texts of @p column are equal.
 const Columns &tieBreakers(int column)
@@ -69,82 +84,105 @@ public:
         return m_proxy.filterKeyColumn() == QvelActionItemModel::HotkeyColumn;
     }
 
-    /// Replaces the search by one without an expression.
-    void setSearch(const QString &text);
-    void searchWords();
-    void searchHotkey();
+    /// The cell in the hotkey column of a row that shows an action, or null.
+    const QvelActionItem *hotkeyCell(int row, const QModelIndex &parent) const;
+    bool passesSearch(int row, const QModelIndex &parent, const QvelActionItem &cell);
+    bool passesHotkeyFilter(const QvelActionItem &cell) const;
+
+    void setQuery(const SearchQuery &newQuery);
     void refilter();
-    bool passesSearch(ActionRow &row) const;
-    bool passesHotkeyFilter(const ActionRow &row);
 
     /// \name The order of two cells of a column, given by the numbers of their texts
     /// @{
     bool isBaseLess(const QModelIndex &left, const QModelIndex &right, int a, int b);
     int rankOfName(int number);
-    int hotkeyOfText(int number);
+    const HotkeySortKey &hotkeyOfCell(int number);
     /// @}
 
-    ActionNameRank search; // its text is the filter string
+    SearchQuery query; // its text is the filter string
     bool isRanking = false;
     HotkeyFilter hotkeyFilter = AllActions;
     bool hasContextFilter = false;
     unsigned long selectedContext = 0;
     QString selectedCategory = noCategory;
     QPointer<QvelShortcutManager> manager;
-    QRegularExpression expression{QString(), QRegularExpression::CaseInsensitiveOption};
-    Expression expressionKind = Expression::None;
-    HotkeyMatcher hotkeyMatcher;
-
-    SourceRows rows;
-    HotkeyOrder hotkeys;
+    SortKeys keys;
 
 private:
+    const SearchText &shownText(int row, int column, const QModelIndex &parent)
+    {
+        const QModelIndex index = m_proxy.sourceModel()->index(row, column, parent);
+        return keys.key(column, keys.number(index)).text;
+    }
+    bool isCustomized(const QvelActionItem &cell) const;
     void forgetKeyNames();
 
-    /// What a hotkey cell is sorted by, during one search.
-    struct SortedHotkey {
-        int number = 0;
-        unsigned search = 0; // 0 is before the first
-    };
-
-    bool isCustomized(const ActionRow &row) const;
-
     QvelSortFilterProxyModel &m_proxy;
-
-    // Both by the number of a text, for the numbers of one generation.
-    std::vector<signed char> m_ranks; // negative where it is not known yet
-    std::vector<FoldedText> m_foldedNames;
-    unsigned m_generationOfNames = 0;
-    std::vector<SortedHotkey> m_sortedHotkeys;
-    unsigned m_generationOfHotkeys = 0;
+    std::unordered_map<QString, HotkeySortKey> m_hotkeys; // by their portable texts
+    bool m_wasHotkeySearch = false; // when the keys of hotkey cells were last asked for
     LanguageWatch m_languageWatch{[this] { forgetKeyNames(); }};
-
-    unsigned m_searchCount = 1;
-    bool m_wasHotkeySearch = false;
 };
 
-void QvelSortFilterProxyModel::Private::setSearch(const QString &text)
+const QvelActionItem *QvelSortFilterProxyModel::Private::hotkeyCell(int row,
+                                                                    const QModelIndex &parent) const
 {
-    search = ActionNameRank(text);
-    expression.setPattern(QString());
-    expressionKind = Expression::None;
-    m_ranks.clear();
-    ++m_searchCount;
+    const auto *model = qobject_cast<const QStandardItemModel *>(m_proxy.sourceModel());
+    if (model == nullptr)
+        return nullptr;
+    const QStandardItem *parentItem =
+            parent.isValid() ? model->itemFromIndex(parent) : model->invisibleRootItem();
+    if (parentItem == nullptr)
+        return nullptr;
+    const auto *cell = dynamic_cast<const QvelActionItem *>(
+            parentItem->child(row, QvelActionItemModel::HotkeyColumn));
+    return cell != nullptr && cell->velAction() != nullptr ? cell : nullptr;
 }
 
-void QvelSortFilterProxyModel::Private::searchWords()
+bool QvelSortFilterProxyModel::Private::passesSearch(int row, const QModelIndex &parent,
+                                                     const QvelActionItem &cell)
 {
-    expression.setPattern(SearchPattern::ofWords(search.search()));
-    expressionKind = Expression::OfWords;
+    if (!query.isActive())
+        return true;
+    if (m_proxy.filterKeyColumn() == QvelActionItemModel::ActionColumn) {
+        const SearchText &shown = shownText(row, QvelActionItemModel::ActionColumn, parent);
+        const QString name = cell.record()->name();
+        return query.matches(shown.text == name ? shown : SearchText(name));
+    }
+    const SearchText &hotkeys = shownText(row, QvelActionItemModel::HotkeyColumn, parent);
+    const bool isList = isHotkeySearch() && hotkeys.text.contains(QLatin1Char(','));
+    return query.matches(isList ? SearchText(withoutSeparators(hotkeys.text)) : hotkeys);
 }
 
-void QvelSortFilterProxyModel::Private::searchHotkey()
+bool QvelSortFilterProxyModel::Private::passesHotkeyFilter(const QvelActionItem &cell) const
 {
-    const QStringList parts = m_proxy.getModifierAndKey(search.search(), QKeySequence::PortableText,
-                                                        QKeySequence::PortableText);
-    expression.setPattern(SearchPattern::ofHotkey(parts));
-    hotkeyMatcher = HotkeyMatcher(parts);
-    expressionKind = Expression::OfHotkey;
+    switch (hotkeyFilter) {
+    case AllActions:
+        break;
+    case AssignedHotkeysOnly:
+        return !cell.text().isEmpty();
+    case CustomizedHotkeysOnly:
+        return isCustomized(cell);
+    case UnsavedHotkeysOnly:
+        return !manager.isNull() && manager->isUserModifiedAction(cell.record()->identifier());
+    }
+    return true;
+}
+
+bool QvelSortFilterProxyModel::Private::isCustomized(const QvelActionItem &cell) const
+{
+    const QStringList base = hotkeysOf(
+            manager.isNull() ? QString()
+                             : manager->getBaseShortcutsFromActionId(cell.record()->identifier()));
+    const QStringList current = hotkeysOf(cell.text());
+    return std::any_of(current.begin(), current.end(), [&base](const QString &hotkey) {
+        return !base.contains(hotkey, Qt::CaseInsensitive);
+    });
+}
+
+void QvelSortFilterProxyModel::Private::setQuery(const SearchQuery &newQuery)
+{
+    query = newQuery;
+    keys.forgetSearch();
 }
 
 void QvelSortFilterProxyModel::Private::refilter()
@@ -153,108 +191,47 @@ void QvelSortFilterProxyModel::Private::refilter()
     Q_EMIT m_proxy.filterInvalidated();
 }
 
-bool QvelSortFilterProxyModel::Private::passesSearch(ActionRow &row) const
-{
-    if (expressionKind == Expression::None)
-        return true;
-    if (m_proxy.filterKeyColumn() == QvelActionItemModel::ActionColumn) {
-        const bool isSimple = expressionKind == Expression::OfWords && search.isSimple()
-                              && row.foldedName.isSimple;
-        return isSimple ? search.holdsEveryWord(row.foldedName)
-                        : m_proxy.getRegularExpressionResult(row.name);
-    }
-    const QString text = row.hotkeyItem->text();
-    if (expressionKind == Expression::OfHotkey && isHotkeySearch() && hotkeyMatcher.isSimple()
-        && !text.isEmpty() && row.foldedHotkeys(text).isSimple)
-        return hotkeyMatcher.matches(row.foldedHotkeys(text));
-    return m_proxy.getRegularExpressionResult(text);
-}
-
-bool QvelSortFilterProxyModel::Private::passesHotkeyFilter(const ActionRow &row)
-{
-    switch (hotkeyFilter) {
-    case AllActions:
-        break;
-    case AssignedHotkeysOnly:
-        return !row.hotkeyItem->text().isEmpty();
-    case CustomizedHotkeysOnly:
-        return isCustomized(row);
-    case UnsavedHotkeysOnly:
-        return !manager.isNull() && manager->isUserModifiedAction(row.identifier);
-    }
-    return true;
-}
-
-bool QvelSortFilterProxyModel::Private::isCustomized(const ActionRow &row) const
-{
-    const QStringList base = hotkeysOf(
-            manager.isNull() ? QString() : manager->getBaseShortcutsFromActionId(row.identifier));
-    const QStringList current = hotkeysOf(row.hotkeyItem->text());
-    return std::any_of(current.begin(), current.end(), [&base](const QString &hotkey) {
-        return !base.contains(hotkey, Qt::CaseInsensitive);
-    });
-}
-
 bool QvelSortFilterProxyModel::Private::isBaseLess(const QModelIndex &left,
                                                    const QModelIndex &right, int a, int b)
 {
-    SourceColumn &column = rows.column(left.column());
-    if (!column.isText || m_proxy.sortRole() != Qt::DisplayRole)
+    if (!keys.isOfStrings(left.column()) || m_proxy.sortRole() != Qt::DisplayRole)
         return m_proxy.QSortFilterProxyModel::lessThan(left, right);
-    const TextOrder order{m_proxy.sortCaseSensitivity(), m_proxy.isSortLocaleAware()};
-    if (!column.texts.isRanked(a, b, order) && column.texts.isRankingDue())
-        rows.readColumn(left.column());
-    return column.texts.less(a, b, order);
+    return keys.isLess(left.column(), a, b,
+                       {m_proxy.sortCaseSensitivity(), m_proxy.isSortLocaleAware()});
 }
 
 int QvelSortFilterProxyModel::Private::rankOfName(int number)
 {
-    const SourceColumn &names = rows.column(QvelActionItemModel::ActionColumn);
-    if (names.generation != m_generationOfNames) {
-        m_ranks.clear();
-        m_foldedNames.clear();
-        m_generationOfNames = names.generation;
-    }
-    const auto place = static_cast<std::size_t>(number);
-    if (place >= m_ranks.size())
-        m_ranks.resize(static_cast<std::size_t>(names.texts.size()), -1);
-    signed char &rank = m_ranks[place];
-    if (rank < 0) {
-        while (m_foldedNames.size() <= place)
-            m_foldedNames.emplace_back(names.texts.text(static_cast<int>(m_foldedNames.size())));
-        const FoldedText &folded = m_foldedNames[place];
-        rank = static_cast<signed char>(search.isSimple() && folded.isSimple
-                                                ? search.rank(folded)
-                                                : search.rank(names.texts.text(number)));
-    }
-    return rank;
+    SortKey &name = keys.key(QvelActionItemModel::ActionColumn, number);
+    if (name.rank < 0)
+        name.rank = query.rank(name.text);
+    return name.rank;
 }
 
-int QvelSortFilterProxyModel::Private::hotkeyOfText(int number)
+const HotkeySortKey &QvelSortFilterProxyModel::Private::hotkeyOfCell(int number)
 {
     if (isHotkeySearch() != m_wasHotkeySearch) {
         m_wasHotkeySearch = !m_wasHotkeySearch;
-        ++m_searchCount;
+        keys.forgetSearch();
     }
-    const SourceColumn &cells = rows.column(QvelActionItemModel::HotkeyColumn);
-    if (cells.generation != m_generationOfHotkeys) {
-        m_sortedHotkeys.clear();
-        m_generationOfHotkeys = cells.generation;
+    SortKey &cell = keys.key(QvelActionItemModel::HotkeyColumn, number);
+    if (cell.hotkey == nullptr) {
+        const QString hotkey = m_proxy.getSearchedHotkey(hotkeysOf(cell.text.text));
+        auto known = m_hotkeys.find(hotkey);
+        if (known == m_hotkeys.end()) {
+            const HotkeySortKey key(m_proxy.getModifierAndKey(hotkey, QKeySequence::PortableText,
+                                                              QKeySequence::NativeText));
+            known = m_hotkeys.emplace(hotkey, key).first;
+        }
+        cell.hotkey = &known->second;
     }
-    if (number >= static_cast<int>(m_sortedHotkeys.size()))
-        m_sortedHotkeys.resize(static_cast<std::size_t>(cells.texts.size()));
-    SortedHotkey &sorted = m_sortedHotkeys[static_cast<std::size_t>(number)];
-    if (sorted.search != m_searchCount) {
-        const QStringList list = hotkeysOf(cells.texts.text(number));
-        sorted = {hotkeys.add(m_proxy.getSearchedHotkey(list)), m_searchCount};
-    }
-    return sorted.number;
+    return *cell.hotkey;
 }
 
 void QvelSortFilterProxyModel::Private::forgetKeyNames()
 {
-    hotkeys = HotkeyOrder();
-    m_sortedHotkeys.clear();
+    keys.forgetSearch();
+    m_hotkeys.clear();
 }
 
 QvelSortFilterProxyModel::QvelSortFilterProxyModel(QvelShortcutManager *shortcutManager,
@@ -263,7 +240,7 @@ QvelSortFilterProxyModel::QvelSortFilterProxyModel(QvelShortcutManager *shortcut
 {
     // Emitted before the base class connects itself to the new model.
     connect(this, &QAbstractProxyModel::sourceModelChanged, this,
-            [this] { d->rows.setModel(sourceModel()); });
+            [this] { d->keys.setModel(sourceModel()); });
 }
 
 QvelSortFilterProxyModel::~QvelSortFilterProxyModel() = default;
@@ -271,18 +248,20 @@ QvelSortFilterProxyModel::~QvelSortFilterProxyModel() = default;
 bool QvelSortFilterProxyModel::updateFilterString(const QString &text)
 {
     const QString search = text.trimmed();
-    d->setSearch(search.isEmpty() ? QString() : search);
-    if (!search.isEmpty() && d->isHotkeySearch()) {
-        d->searchHotkey();
+    if (search.isEmpty()) {
+        d->setQuery(SearchQuery());
+        d->refilter();
+    } else if (d->isHotkeySearch()) {
+        d->setQuery(
+                SearchQuery::ofHotkey(search, getModifierAndKey(search, QKeySequence::PortableText,
+                                                                QKeySequence::PortableText)));
         invalidate();
-        return true;
+    } else {
+        const bool isByName = filterKeyColumn() == QvelActionItemModel::ActionColumn;
+        d->setQuery(isByName ? SearchQuery::ofWords(search) : SearchQuery(search));
+        d->refilter();
     }
-    const bool isActive =
-            !search.isEmpty() && filterKeyColumn() == QvelActionItemModel::ActionColumn;
-    if (isActive)
-        d->searchWords();
-    d->refilter();
-    return isActive;
+    return d->query.isActive();
 }
 
 void QvelSortFilterProxyModel::setActionSearchSorting(bool enabled)
@@ -320,17 +299,14 @@ void QvelSortFilterProxyModel::setSelectedHotkeyFilter(HotkeyFilter filter)
 bool QvelSortFilterProxyModel::filterAcceptsRow(int sourceRow,
                                                 const QModelIndex &sourceParent) const
 {
-    if (d->rows.model() != sourceModel())
-        d->rows.setModel(sourceModel()); // it was set while this object's signals were blocked
-    const QStandardItem *item = d->rows.hotkeyItem(sourceRow, sourceParent);
-    ActionRow &row = d->rows.row(sourceRow, sourceParent, item);
-    if (row.action == nullptr)
+    const QvelActionItem *cell = d->hotkeyCell(sourceRow, sourceParent);
+    if (cell == nullptr)
         return false;
-    if (d->hasContextFilter && row.contextId != d->selectedContext)
+    if (d->hasContextFilter && cell->record()->contextId() != d->selectedContext)
         return false;
-    if (d->selectedCategory != noCategory && row.category != d->selectedCategory)
+    if (d->selectedCategory != noCategory && cell->record()->category() != d->selectedCategory)
         return false;
-    return d->passesSearch(row) && d->passesHotkeyFilter(row);
+    return d->passesSearch(sourceRow, sourceParent, *cell) && d->passesHotkeyFilter(*cell);
 }
 
 bool QvelSortFilterProxyModel::lessThan(const QModelIndex &left, const QModelIndex &right) const
@@ -341,17 +317,15 @@ bool QvelSortFilterProxyModel::lessThan(const QModelIndex &left, const QModelInd
 
     QModelIndex l = left;
     QModelIndex r = right;
-    int a = d->rows.textNumber(l, l.column());
-    int b = d->rows.textNumber(r, l.column());
+    int a = d->keys.number(l);
+    int b = d->keys.number(r);
     if (a == b) {
         switchIndexOnEqualString(l, r, tieBreakers(l.column()));
-        a = d->rows.textNumber(l, l.column());
-        b = d->rows.textNumber(r, l.column());
+        a = d->keys.number(l);
+        b = d->keys.number(r);
     }
-
-    const RankedTexts &texts = d->rows.column(l.column()).texts;
-    const bool isLeftEmpty = texts.isEmpty(a);
-    const bool isRightEmpty = texts.isEmpty(b);
+    const bool isLeftEmpty = d->keys.isEmpty(l.column(), a);
+    const bool isRightEmpty = d->keys.isEmpty(l.column(), b);
     if (isLeftEmpty || isRightEmpty)
         return isLeftEmpty != isRightEmpty && isLeftEmpty == (sortOrder() == Qt::DescendingOrder);
 
@@ -361,10 +335,10 @@ bool QvelSortFilterProxyModel::lessThan(const QModelIndex &left, const QModelInd
         if (leftRank != rightRank)
             return leftRank < rightRank;
     } else if (l.column() == Model::HotkeyColumn) {
-        const int leftHotkey = d->hotkeyOfText(a);
-        const HotkeyOrder::Result result = d->hotkeys.compare(leftHotkey, d->hotkeyOfText(b));
-        if (result != HotkeyOrder::Result::SameParts)
-            return result == HotkeyOrder::Result::Less;
+        const HotkeySortKey &leftHotkey = d->hotkeyOfCell(a);
+        const HotkeySortKey &rightHotkey = d->hotkeyOfCell(b);
+        if (leftHotkey.parts != rightHotkey.parts)
+            return leftHotkey.isLess(rightHotkey);
         return lessThan(l.sibling(l.row(), Model::ActionColumn),
                         r.sibling(r.row(), Model::ActionColumn));
     }
@@ -374,23 +348,28 @@ bool QvelSortFilterProxyModel::lessThan(const QModelIndex &left, const QModelInd
 QvelSortFilterProxyModel::ActionSearchingSortOrder QvelSortFilterProxyModel::evaluateStringSearch(
         const QString &name) const
 {
-    return d->search.rank(name);
+    return d->query.rank(SearchText(name));
 }
 
 QStringList QvelSortFilterProxyModel::getModifierAndKey(
         const QString &hotkey, QKeySequence::SequenceFormat inputFormat,
         QKeySequence::SequenceFormat outputFormat) const
 {
-    return HotkeyParts::split(hotkey, inputFormat, outputFormat,
-                              QvelShortcutManager::getNumPadKeyName(outputFormat));
+    const QString text = QKeySequence(hotkey, inputFormat).toString(outputFormat);
+    if (text.isEmpty())
+        return {};
+    QStringList parts = splitAtPlus(text);
+    if (parts.size() > 1
+        && parts.at(parts.size() - 2) == QvelShortcutManager::getNumPadKeyName(outputFormat)) {
+        const QString key = parts.takeLast();
+        parts.last() += QLatin1Char('+') + key;
+    }
+    return parts;
 }
 
 bool QvelSortFilterProxyModel::getRegularExpressionResult(const QString &text) const
 {
-    if (d->expressionKind == Expression::None || text.isEmpty())
-        return false;
-    const QString searched = d->isHotkeySearch() ? SearchPattern::withoutSeparators(text) : text;
-    return d->expression.match(searched).hasMatch();
+    return d->query.matches(SearchText(d->isHotkeySearch() ? withoutSeparators(text) : text));
 }
 
 QString QvelSortFilterProxyModel::getSearchedHotkey(const QStringList &hotkeys) const
@@ -416,7 +395,7 @@ void QvelSortFilterProxyModel::switchIndexOnEqualString(
             return;
         left = nextLeft;
         right = nextRight;
-        if (d->rows.textNumber(left, column) != d->rows.textNumber(right, column))
+        if (d->keys.number(left) != d->keys.number(right))
             return;
     }
 }

@@ -1,8 +1,4 @@
-#include "ActionNameRank.h"
-#include "FoldedText.h"
-#include "HotkeyMatcher.h"
-#include "RankedTexts.h"
-#include "SearchPattern.h"
+#include "SearchQuery.h"
 #include "Text.h"
 
 #include <QRegularExpression>
@@ -10,18 +6,10 @@
 
 #include <random>
 
-using CUI::ActionNameRank;
-using CUI::FoldedText;
-using CUI::HotkeyMatcher;
-using CUI::RankedTexts;
-using CUI::TextOrder;
+using CUI::SearchQuery;
+using CUI::SearchText;
 
 namespace {
-
-QRegularExpression expression(const QString &pattern)
-{
-    return QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption);
-}
 
 /// Texts made of few pieces, so that they often match each other.
 class Texts
@@ -43,9 +31,17 @@ private:
     QStringList m_pieces;
 };
 
+/// The same text, not taken to be simple.
+SearchText general(const QString &text)
+{
+    SearchText result(text);
+    result.isSimple = false;
+    return result;
+}
+
 } // namespace
 
-/// The short cuts of a search give the answers of the general functions that they replace.
+/// Simple texts get the answers of the general functions that they do without.
 class TestBrowsingParts : public QObject
 {
     Q_OBJECT
@@ -54,26 +50,27 @@ private Q_SLOTS:
     void simpleCharactersFoldAlike();
     void namesEqualGeneralSearch();
     void hotkeysEqualExpression();
-    void rankedTextsEqualComparison();
 };
 
 void TestBrowsingParts::simpleCharactersFoldAlike()
 {
-    QVERIFY(FoldedText(s("Move Tool 2, œuvre à l’Échelle… 移動ツール 이동 도구")).isSimple);
-    QVERIFY(!FoldedText(s("𐐀")).isSimple); // outside the base plane
+    QVERIFY(SearchText(s("Move Tool 2, œuvre à l’Échelle… 移動ツール 이동 도구")).isSimple);
+    QVERIFY(!SearchText(s("𐐀")).isSimple); // outside the base plane
     QString simple;
     for (ushort c = 0; c < 0x2100; ++c) {
-        if (FoldedText(QChar(c)).isSimple)
+        if (SearchText(QChar(c)).isSimple)
             simple += QChar(c);
     }
     for (const QChar c : qAsConst(simple)) {
-        auto matches = expression(QRegularExpression::escape(QString(c))).globalMatch(simple);
+        const QRegularExpression expression(QRegularExpression::escape(QString(c)),
+                                            QRegularExpression::CaseInsensitiveOption);
+        auto matches = expression.globalMatch(simple);
         QString alike;
         while (matches.hasNext())
             alike += matches.next().captured();
         QString folding;
         for (const QChar other : qAsConst(simple)) {
-            if (FoldedText(other).text == FoldedText(c).text)
+            if (SearchText(other).folded == SearchText(c).folded)
                 folding += other;
         }
         QCOMPARE(alike, folding);
@@ -86,16 +83,17 @@ void TestBrowsingParts::namesEqualGeneralSearch()
     int simple = 0;
     int matched = 0;
     for (int i = 0; i < 20000; ++i) {
-        const QString search = texts.text(5).trimmed();
-        const FoldedText name(texts.text(8));
-        const ActionNameRank rank(search);
-        if (search.isEmpty() || !rank.isSimple() || !name.isSimple)
+        const SearchQuery query = SearchQuery::ofWords(texts.text(5).trimmed());
+        const SearchText name(texts.text(8));
+        const SearchText other(texts.text(3));
+        const QString both = query.text() + s(" / ") + name.text;
+        QCOMPARE(SearchText::isLess(name, other, Qt::CaseInsensitive),
+                 name.text.compare(other.text, Qt::CaseInsensitive) < 0);
+        if (query.text().isEmpty() || !name.isSimple)
             continue;
-        const QString both = search + s(" / ") + name.text;
-        const bool expected =
-                expression(CUI::SearchPattern::ofWords(search)).match(name.text).hasMatch();
-        QVERIFY2(rank.holdsEveryWord(name) == expected, qPrintable(both));
-        QVERIFY2(rank.rank(name) == rank.rank(name.text), qPrintable(both));
+        const bool expected = query.matches(general(name.text));
+        QVERIFY2(query.matches(name) == expected, qPrintable(both));
+        QVERIFY2(query.rank(name) == query.rank(general(name.text)), qPrintable(both));
         ++simple;
         matched += expected ? 1 : 0;
     }
@@ -105,43 +103,19 @@ void TestBrowsingParts::namesEqualGeneralSearch()
 void TestBrowsingParts::hotkeysEqualExpression()
 {
     Texts texts("Ctrl+|ctrl+|Shift+|Alt+|A|A1|1| | |+|F1|É|Ctrl|_|,|Num+5");
-    int simple = 0;
     int matched = 0;
     for (int i = 0; i < 40000; ++i) {
         QStringList parts;
         for (int count = texts.below(4); count > 0; --count)
             parts << (texts.below(2) == 0 ? texts.text(2) : s("Ctrl"));
-        const HotkeyMatcher matcher(parts);
-        const FoldedText hotkeys(texts.text(8));
-        if (!matcher.isSimple())
-            continue;
-        const QRegularExpression general = expression(CUI::SearchPattern::ofHotkey(parts));
-        const bool expected = general.match(hotkeys.text).hasMatch();
-        QVERIFY2(matcher.matches(hotkeys) == expected,
+        const SearchQuery query = SearchQuery::ofHotkey(QString(), parts);
+        const SearchText hotkeys(texts.text(8));
+        const bool expected = query.matches(general(hotkeys.text));
+        QVERIFY2(query.matches(hotkeys) == expected,
                  qPrintable(parts.join(s("|")) + s(" / ") + hotkeys.text));
-        ++simple;
         matched += expected && !parts.isEmpty() ? 1 : 0;
     }
-    QVERIFY(simple > 10000 && matched > 500);
-    QVERIFY(!HotkeyMatcher({s("Ctrl"), s("ctrl")}).isSimple());
-    QVERIFY(!HotkeyMatcher({QString(), s("+")}).isSimple());
-}
-
-void TestBrowsingParts::rankedTextsEqualComparison()
-{
-    Texts texts("a|A|b|B|é|E|Z|_|移|");
-    RankedTexts ranked;
-    const TextOrder orders[] = {
-            {Qt::CaseSensitive, false}, {Qt::CaseInsensitive, false}, {Qt::CaseInsensitive, true}};
-    for (int i = 0; i < 60000; ++i) {
-        // New texts come all the time, and are compared before they have a rank.
-        const TextOrder &order = orders[i / 20000];
-        const int a = ranked.add(texts.text(3));
-        const int b = i % 50 == 0 ? ranked.add(texts.text(6)) : texts.below(ranked.size());
-        QCOMPARE(ranked.less(a, b, order), order.less(ranked.text(a), ranked.text(b)));
-        QCOMPARE(ranked.isEmpty(a), ranked.text(a).isEmpty());
-    }
-    QVERIFY(ranked.isRanked(0, 1, orders[2]));
+    QVERIFY(matched > 500);
 }
 
 QTEST_GUILESS_MAIN(TestBrowsingParts)

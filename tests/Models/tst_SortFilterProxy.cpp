@@ -71,6 +71,7 @@ private Q_SLOTS:
     void cleanup();
     void searches_data();
     void searches();
+    void searchesQuietlyForHalfAPair();
     void filtersByHotkeyState();
     void answersItsSubclasses();
     void announcesEachChange();
@@ -181,6 +182,20 @@ void TestSortFilterProxy::searches()
     QStringList found = names();
     found.sort();
     QTEST(found, "found");
+}
+
+void TestSortFilterProxy::searchesQuietlyForHalfAPair()
+{
+    static int warnings;
+    warnings = 0;
+    show({{"a", "A"}, {"b", "B"}});
+    const auto handler = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &) { ++warnings; });
+    m_proxy->updateFilterString(QString(QChar(0xd83d)));
+    const QStringList listed = names();
+    qInstallMessageHandler(handler);
+    QCOMPARE(listed, QStringList());
+    QCOMPARE(warnings, 0);
 }
 
 void TestSortFilterProxy::filtersByHotkeyState()

@@ -1,4 +1,4 @@
-#include "FoldedText.h"
+#include "SearchText.h"
 
 #include <algorithm>
 
@@ -33,12 +33,21 @@ bool isSimple(QChar c)
 
 } // namespace
 
-FoldedText::FoldedText(const QString &original)
-    : text(original), isSimple(std::all_of(original.begin(), original.end(), CUI::isSimple))
+SearchText::SearchText(const QString &original)
+    : text(original),
+      folded(original),
+      isSimple(std::all_of(original.begin(), original.end(), CUI::isSimple))
 {
     // Not QString::toCaseFolded(), which turns some letters into two.
-    for (QChar &c : text)
+    for (QChar &c : folded)
         c = c.toCaseFolded();
+}
+
+bool SearchText::isLess(const SearchText &a, const SearchText &b, Qt::CaseSensitivity sensitivity)
+{
+    if (sensitivity == Qt::CaseInsensitive && a.isSimple && b.isSimple)
+        return a.folded < b.folded;
+    return a.text.compare(b.text, sensitivity) < 0;
 }
 
 } // namespace CUI
