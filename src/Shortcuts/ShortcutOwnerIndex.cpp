@@ -6,12 +6,12 @@ namespace CUI {
 
 void ShortcutOwnerIndex::add(const QString &shortcut, const ActionIdentifier &owner)
 {
-    m_owners[CaseFoldedText{shortcut}].push_back(owner);
+    m_owners[CaseInsensitiveKey{shortcut}].push_back(owner);
 }
 
 void ShortcutOwnerIndex::remove(const QString &shortcut, const ActionIdentifier &owner)
 {
-    const auto entry = m_owners.find(CaseFoldedText{shortcut});
+    const auto entry = m_owners.find(CaseInsensitiveKey{shortcut});
     if (entry == m_owners.end())
         return;
     std::vector<ActionIdentifier> &owners = entry->second;
@@ -40,7 +40,7 @@ void ShortcutOwnerIndex::rebuild(
 const std::vector<ActionIdentifier> &ShortcutOwnerIndex::owners(const QString &shortcut) const
 {
     static const std::vector<ActionIdentifier> none;
-    const auto it = m_owners.find(CaseFoldedText{shortcut});
+    const auto it = m_owners.find(CaseInsensitiveKey{shortcut});
     return it == m_owners.end() ? none : it->second;
 }
 

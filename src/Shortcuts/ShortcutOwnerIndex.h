@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ActionIdentifier.h"
-#include "CaseFoldedText.h"
+#include "CaseInsensitiveKey.h"
 #include "QShortcutsList.h"
 
 #include <unordered_map>
@@ -22,7 +22,8 @@ public:
     const std::vector<ActionIdentifier> &owners(const QString &shortcut) const;
 
 private:
-    std::unordered_map<CaseFoldedText, std::vector<ActionIdentifier>, CaseFoldedTextHash> m_owners;
+    std::unordered_map<CaseInsensitiveKey, std::vector<ActionIdentifier>, CaseInsensitiveKeyHash>
+            m_owners;
 };
 
 } // namespace CUI

@@ -23,7 +23,7 @@ const struct {
         {Values,
          "src/UiCustomizationsExport.h src/ActionManager/ActionIdentifier.* "
          "src/ActionManager/VelAction.* src/ActionManager/VelActionContext.* "
-         "src/HotkeyFiles/ConfigType.* src/Shortcuts/CaseFoldedText.* "
+         "src/HotkeyFiles/ConfigType.* src/Shortcuts/CaseInsensitiveKey.* "
          "src/Shortcuts/HotkeyClaims.* src/Shortcuts/HotkeyFinding.* "
          "src/Shortcuts/HotkeyReservation.* "
          "src/Shortcuts/NearbyKeys.* src/Shortcuts/NearestHolder.* src/Shortcuts/JoinedHotkeys.* "

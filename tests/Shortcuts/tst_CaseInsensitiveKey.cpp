@@ -1,13 +1,13 @@
-#include "CaseFoldedText.h"
+#include "CaseInsensitiveKey.h"
 
 #include <QtTest>
 
 #include <vector>
 
-using CUI::CaseFoldedText;
-using CUI::CaseFoldedTextHash;
+using CUI::CaseInsensitiveKey;
+using CUI::CaseInsensitiveKeyHash;
 
-class TestCaseFoldedText : public QObject
+class TestCaseInsensitiveKey : public QObject
 {
     Q_OBJECT
 
@@ -17,7 +17,7 @@ private Q_SLOTS:
 
 // Every letter that folds, one that does not, and pairs of surrogates: texts that compare equal
 // without regard to case must have equal hashes.
-void TestCaseFoldedText::meetsWhatTheComparisonMeets()
+void TestCaseInsensitiveKey::meetsWhatTheComparisonMeets()
 {
     int folding = 0;
     for (uint codePoint = 1; codePoint < 0x1FFFF; ++codePoint) {
@@ -25,18 +25,18 @@ void TestCaseFoldedText::meetsWhatTheComparisonMeets()
         if (folded == codePoint)
             continue;
         ++folding;
-        const CaseFoldedText text{QStringLiteral("Ctrl+") + QString::fromUcs4(&codePoint, 1)};
-        const CaseFoldedText other{QStringLiteral("cTRL+") + QString::fromUcs4(&folded, 1)};
+        const CaseInsensitiveKey text{QStringLiteral("Ctrl+") + QString::fromUcs4(&codePoint, 1)};
+        const CaseInsensitiveKey other{QStringLiteral("cTRL+") + QString::fromUcs4(&folded, 1)};
         // Only texts of one length are equal; a folding can leave the basic plane.
         const bool expected = text.text.size() == other.text.size();
         QCOMPARE(text == other, expected);
         QCOMPARE(QStringList(other.text).contains(text.text, Qt::CaseInsensitive), expected);
         if (expected)
-            QCOMPARE(CaseFoldedTextHash()(text), CaseFoldedTextHash()(other));
+            QCOMPARE(CaseInsensitiveKeyHash()(text), CaseInsensitiveKeyHash()(other));
     }
     QVERIFY(folding > 1000);
-    QVERIFY(!(CaseFoldedText{QStringLiteral("ß")} == CaseFoldedText{QStringLiteral("ss")}));
+    QVERIFY(!(CaseInsensitiveKey{QStringLiteral("ß")} == CaseInsensitiveKey{QStringLiteral("ss")}));
 }
 
-QTEST_GUILESS_MAIN(TestCaseFoldedText)
-#include "tst_CaseFoldedText.moc"
+QTEST_GUILESS_MAIN(TestCaseInsensitiveKey)
+#include "tst_CaseInsensitiveKey.moc"

@@ -1,4 +1,4 @@
-#include "CaseFoldedText.h"
+#include "CaseInsensitiveKey.h"
 
 #include <cstdint>
 
@@ -18,7 +18,7 @@ std::uint32_t fold(std::uint32_t codePoint)
 
 } // namespace
 
-std::size_t CaseFoldedTextHash::operator()(const CaseFoldedText &key) const
+std::size_t CaseInsensitiveKeyHash::operator()(const CaseInsensitiveKey &key) const
 {
     std::uint64_t h = fnvOffset;
     QChar previous;
