@@ -6,7 +6,7 @@ function(uicustomizations_copy_schemas target)
     if(NOT TARGET "${target}")
         message(FATAL_ERROR "uicustomizations_copy_schemas: there is no target '${target}'.")
     endif()
-    get_property(schemas TARGET UiCustomizations::UiCustomizations
+    get_property(schemas TARGET UiCustomizations::UiCustomizationsCore
         PROPERTY UICUSTOMIZATIONS_SCHEMAS)
     add_custom_command(TARGET "${target}" POST_BUILD
         COMMAND "${CMAKE_COMMAND}" -E copy_if_different ${schemas} "$<TARGET_FILE_DIR:${target}>"

@@ -15,7 +15,7 @@ namespace CUI {
 /// Two identifiers are equal when both fields are; letter case counts. The empty identifier
 /// (table 0, null actionId) stands for "no action" wherever one is looked up; callers test
 /// isEmpty().
-struct CUI_EXPORT ActionIdentifier {
+struct CUI_CORE_EXPORT ActionIdentifier {
     /// Number of the action table, 0 to 4294967295 on every system.
     unsigned long tableId = 0;
     /// The action's identifier inside its table.
@@ -56,7 +56,7 @@ namespace std {
 /// 64-bit FNV-1a over the low four bytes of tableId, combined with Qt's unseeded string hash. Never
 /// throws, but is not declared so: the standard library of GCC then keeps the hash of each key.
 template <>
-struct CUI_EXPORT hash<CUI::ActionIdentifier> {
+struct CUI_CORE_EXPORT hash<CUI::ActionIdentifier> {
     /// The hash of @p identifier.
     size_t operator()(const CUI::ActionIdentifier &identifier) const;
 };

@@ -26,7 +26,7 @@ class QvelShortcutManager;
 ///
 /// No operation reports an error: an unknown id gives null, false or nothing at all, and adding
 /// under a key that is taken replaces what was there.
-class CUI_EXPORT ICuiActionManager : public QObject
+class CUI_CORE_EXPORT ICuiActionManager : public QObject
 {
     Q_OBJECT
 

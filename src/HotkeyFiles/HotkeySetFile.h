@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ShortcutTransformation.h"
+#include "UiCustomizationsExport.h"
 #include "XmlError.h"
 
 #include <QString>
@@ -35,7 +36,7 @@ enum class LockAttribute { Omit, WriteUnlocked };
 Content read(QIODevice &device);
 
 /// Reads no further than the root's start tag; nothing when the document has none or another root.
-std::optional<Metadata> readMetadata(QIODevice &device);
+CUI_CORE_EXPORT std::optional<Metadata> readMetadata(QIODevice &device);
 
 /// Writes to the open @p device. False when the device failed or a step holds a character that XML
 /// does not allow (see firstUnwritable()).

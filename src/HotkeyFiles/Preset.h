@@ -13,7 +13,7 @@ namespace CUI {
 /// user's own.
 ///
 /// Presets are equal, and ordered, by their paths alone; letter case counts.
-class CUI_EXPORT Preset
+class CUI_CORE_EXPORT Preset
 {
 public:
     /// An invalid preset: empty path and name, no flag set.

@@ -15,7 +15,7 @@ namespace CUI {
 /// Writes log lines to the log file that the installed IPathManager names.
 ///
 /// The host connects QvelMessageLog::messageLogged to logMessage().
-class CUI_EXPORT QvelFileMessageLogger : public QObject
+class CUI_CORE_EXPORT QvelFileMessageLogger : public QObject
 {
     Q_OBJECT
 

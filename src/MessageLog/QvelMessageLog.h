@@ -15,7 +15,7 @@ class QvelMessageLogPrivate;
 ///
 /// The log keeps nothing: a message that passes the level becomes one line and one messageLogged()
 /// signal; whoever wants the lines connects to it. User-interface thread only.
-class CUI_EXPORT QvelMessageLog : public QObject
+class CUI_CORE_EXPORT QvelMessageLog : public QObject
 {
     Q_OBJECT
     Q_DECLARE_PRIVATE(QvelMessageLog)
@@ -67,7 +67,7 @@ private:
 
 /// While it lives, nothing is logged as less severe than the cap. A cap inside another one never
 /// relaxes the outer. Scopes end in the reverse order of their creation.
-class CUI_EXPORT ScopedMessageTypeCap
+class CUI_CORE_EXPORT ScopedMessageTypeCap
 {
     Q_DISABLE_COPY(ScopedMessageTypeCap)
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UiCustomizationsExport.h"
+
 #include <QString>
 #include <QtGlobal>
 
@@ -33,7 +35,7 @@ inline bool operator==(const Stamp &a, const Stamp &b)
 }
 
 /// The stamp of the regular file at @p path, links followed; nothing when there is none.
-std::optional<Stamp> stampOf(const QString &path);
+CUI_CORE_EXPORT std::optional<Stamp> stampOf(const QString &path);
 
 } // namespace FileAttributes
 } // namespace CUI

@@ -22,7 +22,7 @@ class QvelShortcutManager;
 /// in the language of that time. It keeps neither of them. Actions that the registry does not know,
 /// or whose context it does not know, are left out. Without a registry nothing is found.
 /// User-interface thread only.
-class CUI_EXPORT HotkeyAudit
+class CUI_CORE_EXPORT HotkeyAudit
 {
 public:
     /// What an audit has to be told.

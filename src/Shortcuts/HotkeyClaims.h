@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ActionIdentifier.h"
+#include "UiCustomizationsExport.h"
 
 #include <QKeySequence>
 #include <QList>
@@ -22,7 +23,7 @@ namespace CUI {
 ///
 /// Whoever claims Enter claims Return as well, the other key of that name, which the hotkey editor
 /// records as Enter; an action that claims Return itself goes before.
-class HotkeyClaims
+class CUI_CORE_EXPORT HotkeyClaims
 {
 public:
     /// The id of a context; none for all the actions whose context is not known.

@@ -13,7 +13,7 @@ namespace CUI {
 
 /// Something that HotkeyAudit found. A value: it names actions and contexts of the time when it was
 /// made, which may have gone since.
-struct CUI_EXPORT HotkeyFinding {
+struct CUI_CORE_EXPORT HotkeyFinding {
     /// What was found, the worst first.
     enum class Kind {
         HeldTwice, ///< several actions of one context hold the key: one runs, the others never do

@@ -14,7 +14,7 @@ namespace CUI {
 /// The table holds what the systems do as they are installed; users can change most of it, and
 /// nothing here asks the running system. On macOS, Ctrl names the Command key, Alt the Option key
 /// and Meta the Control key, as everywhere in Qt.
-struct CUI_EXPORT HotkeyReservation {
+struct CUI_CORE_EXPORT HotkeyReservation {
     /// Who uses the key.
     enum class System {
         Windows, ///< Microsoft Windows

@@ -40,7 +40,7 @@ namespace CUI {
 /// to the same hotkeys. The order of the result is determined by the three sets alone: first the
 /// steps of the actions that come from mine, in its order, then those from theirs, then those from
 /// the common set.
-class CUI_EXPORT HotkeySetMerge
+class CUI_CORE_EXPORT HotkeySetMerge
 {
 public:
     /// The steps of a set, in the order in which they are replayed.

@@ -29,7 +29,7 @@ class QvelShortcutManager;
 /// been undone, the store follows.
 ///
 /// Uses an event loop, and lives in the user-interface thread.
-class CUI_EXPORT HotkeySetWatcher : public QObject
+class CUI_CORE_EXPORT HotkeySetWatcher : public QObject
 {
     Q_OBJECT
 

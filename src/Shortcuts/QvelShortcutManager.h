@@ -31,7 +31,7 @@ class ShortcutOwnerIndex;
 /// A hotkey is the portable text of one key combination (Ctrl+Shift+Z, Num+5). Within one action
 /// context it belongs to one action only, letter case ignored: assigning it to another takes it
 /// from the first. Actions of different contexts may share it.
-class CUI_EXPORT QvelShortcutManager : public QObject
+class CUI_CORE_EXPORT QvelShortcutManager : public QObject
 {
     Q_OBJECT
 

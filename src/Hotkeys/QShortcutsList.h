@@ -8,7 +8,7 @@ namespace CUI {
 
 /// The hotkeys of one action in the order they were added: at most six, in the portable text form
 /// of one key combination each, no two equal without regard to letter case.
-class CUI_EXPORT QShortcutsList : public QStringList
+class CUI_CORE_EXPORT QShortcutsList : public QStringList
 {
 public:
     /// How many hotkeys an action can hold.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UiCustomizationsExport.h"
+
 #include <QString>
 
 #include <cstddef>
@@ -21,7 +23,7 @@ inline bool operator==(const CaseInsensitiveKey &a, const CaseInsensitiveKey &b)
 /// Not declared noexcept: the standard library of GCC then keeps the hash of each key, and does not
 /// work it out again for every neighbour that a look-up passes.
 struct CaseInsensitiveKeyHash {
-    std::size_t operator()(const CaseInsensitiveKey &key) const;
+    CUI_CORE_EXPORT std::size_t operator()(const CaseInsensitiveKey &key) const;
 };
 
 } // namespace CUI

@@ -11,7 +11,7 @@
 namespace CUI {
 
 /// One recorded edit: a hotkey given to an action, or taken from it.
-class CUI_EXPORT ShortcutTransformation
+class CUI_CORE_EXPORT ShortcutTransformation
 {
 public:
     /// What was done with the hotkey.

@@ -16,7 +16,7 @@ namespace CUI {
 /// use and keeps no pointer; a QvelFileMessageLogger keeps the path of its file. Paths are
 /// absolute; directories carry no trailing separator. An empty text means that the host has no such
 /// file or directory.
-class CUI_EXPORT IPathManager
+class CUI_CORE_EXPORT IPathManager
 {
 public:
     IPathManager();
