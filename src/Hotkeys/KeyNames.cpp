@@ -185,4 +185,32 @@ QKeySequence keyOf(const QString &hotkey)
     return key;
 }
 
+bool canBeHotkey(int combination)
+{
+    constexpr int modifiers = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier
+                              | Qt::MetaModifier | Qt::KeypadModifier;
+    const int key = combination & ~modifiers;
+    switch (key) {
+    case 0:
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_Meta:
+    case Qt::Key_Escape:
+    case Qt::Key_NumLock:
+    case Qt::Key_F1:
+    case Qt::Key_Pause:
+    case Qt::Key_Backspace:
+    case Qt::Key_ScrollLock:
+        return false;
+    default:
+        return key <= Qt::Key_F24 && !movesFocus(combination);
+    }
+}
+
+bool movesFocus(int combination)
+{
+    return (combination & ~int{Qt::ShiftModifier}) == (Qt::ControlModifier | Qt::Key_Tab);
+}
+
 } // namespace CUI::KeyNames

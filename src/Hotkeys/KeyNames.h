@@ -7,8 +7,9 @@
 
 namespace CUI {
 
-/// Conversions between hotkey texts and the accelerators of the Windows accelerator table. The
-/// static members of QvelShortcutManager of the same names forward here and document them.
+/// Which keys can be hotkeys, and conversions between hotkey texts and the accelerators of the
+/// Windows accelerator table. The static members of QvelShortcutManager of the same names forward
+/// here and document them.
 namespace KeyNames {
 
 CUI_CORE_EXPORT bool keySequenceToVirtualKey(const QString &shortcut, int &virtualKey, int &fVirt);
@@ -19,6 +20,11 @@ CUI_CORE_EXPORT QString getNumPadKeyName(QKeySequence::SequenceFormat format);
 
 /// The key of a hotkey text in portable form; empty when there is no such key.
 CUI_CORE_EXPORT QKeySequence keyOf(const QString &hotkey);
+
+/// True for what a key press can be recorded as: not for modifiers alone, Escape, F1 and the like.
+CUI_CORE_EXPORT bool canBeHotkey(int combination);
+/// True for Ctrl+Tab and Ctrl+Shift+Tab, which move the focus out of a field that records keys.
+CUI_CORE_EXPORT bool movesFocus(int combination);
 
 } // namespace KeyNames
 } // namespace CUI

@@ -1,5 +1,6 @@
 #include "HotkeyRecorder.h"
 
+#include "KeyNames.h"
 #include "NativeKeys.h"
 #include "VirtualKeys.h"
 
@@ -75,29 +76,6 @@ int keyOf(const QKeyEvent &event, int virtualKey)
     }
 }
 
-bool leadsOut(int key, int modifiers)
-{
-    return key == Qt::Key_Tab && (modifiers & ~int{Qt::ShiftModifier}) == Qt::ControlModifier;
-}
-
-bool isHotkey(int key, int modifiers)
-{
-    switch (key) {
-    case 0:
-    case Qt::Key_Escape:
-    case Qt::Key_NumLock:
-    case Qt::Key_F1:
-    case Qt::Key_Pause:
-    case Qt::Key_Backspace:
-    case Qt::Key_ScrollLock:
-        return false;
-    case Qt::Key_Tab:
-        return !leadsOut(key, modifiers);
-    default:
-        return key <= Qt::Key_F24 && modifierOf(key) == 0;
-    }
-}
-
 } // namespace
 
 Capture capture(const QKeyEvent &event)
@@ -107,7 +85,7 @@ Capture capture(const QKeyEvent &event)
     const int key = keyOf(event, virtualKey);
     Capture result;
     result.modifiers = heldModifiers(event, virtualKey);
-    if (isHotkey(key, result.modifiers))
+    if (KeyNames::canBeHotkey(key | result.modifiers))
         result.combination = key | result.modifiers;
     if (result.combination != 0 && VirtualKeys::isOnKeypad(virtualKey))
         result.combination |= int{Qt::KeypadModifier};
@@ -118,7 +96,7 @@ WayOut wayOut(const QKeyEvent &event)
 {
     const int virtualKey = NativeKeys::virtualKeyOf(event);
     const int modifiers = heldModifiers(event, virtualKey);
-    if (!leadsOut(keyOf(event, virtualKey), modifiers))
+    if (!KeyNames::movesFocus(keyOf(event, virtualKey) | modifiers))
         return WayOut::None;
     const bool isBack = event.key() == Qt::Key_Backtab || (modifiers & int{Qt::ShiftModifier}) != 0;
     return isBack ? WayOut::Previous : WayOut::Next;

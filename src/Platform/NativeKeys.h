@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KeyboardLayout.h"
+
 class QKeyEvent;
 
 namespace CUI {
@@ -16,6 +18,10 @@ int virtualKeyOf(const QKeyEvent &event);
 /// The character that the key of @p event types without modifiers, as a Qt key code; 0 when it is
 /// not known. @p virtualKey is that key's, one for which VirtualKeys::isPunctuation() is true.
 int unshiftedCharacterOf(int virtualKey, const QKeyEvent &event);
+
+/// What the keys type in the layout that is active now; the US layout where the system does not
+/// tell, as under Wayland without an X server beside it.
+KeyboardLayout layoutInUse();
 
 } // namespace NativeKeys
 } // namespace CUI

@@ -1,5 +1,6 @@
 #include "NativeKeys.h"
 
+#include "KeyCodes.h"
 #include "KeyNames.h"
 #include "VirtualKeys.h"
 
@@ -12,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <memory>
 
 namespace CUI::NativeKeys {
@@ -41,16 +41,30 @@ public:
     /// anew each time: a person presses keys slowly, and what was kept would have to be watched.
     Owned<xkb_keymap> keymap()
     {
-        if (!isConnected() && !connect())
-            return nullptr;
-        const std::int32_t device = xkb_x11_get_core_keyboard_device_id(m_connection.get());
+        const std::int32_t device = keyboard();
         if (device < 0)
             return nullptr;
         return Owned<xkb_keymap>(xkb_x11_keymap_new_from_device(
                 m_context.get(), m_connection.get(), device, XKB_KEYMAP_COMPILE_NO_FLAGS));
     }
 
+    /// The state of the keyboard as it is now, with the layout that is active; null likewise.
+    Owned<xkb_state> state()
+    {
+        const Owned<xkb_keymap> map = keymap();
+        return Owned<xkb_state>(
+                map ? xkb_x11_state_new_from_device(map.get(), m_connection.get(), keyboard())
+                    : nullptr);
+    }
+
 private:
+    /// Negative when there is none.
+    std::int32_t keyboard()
+    {
+        return isConnected() || connect() ? xkb_x11_get_core_keyboard_device_id(m_connection.get())
+                                          : -1;
+    }
+
     bool isConnected() const
     {
         return m_connection && xcb_connection_has_error(m_connection.get()) == 0;
@@ -75,23 +89,10 @@ private:
     Owned<xkb_context> m_context;
 };
 
-/// Neighbouring keys, by the key codes of X11, which are those of the kernel plus eight, and what
-/// they type on a US keyboard.
-struct KeyRun {
-    quint32 first;
-    const char *characters;
-};
-
-constexpr std::array<KeyRun, 4> usKeyboard{{
-        {10, "1234567890-="},
-        {24, "QWERTYUIOP[]"},
-        {38, "ASDFGHJKL;'`"},
-        {51, "\\ZXCVBNM,./"},
-}};
-constexpr quint32 leftAltKey = 64;
-constexpr quint32 rightAltKey = 108;
-constexpr quint32 keypadDecimalKey = 91;
-constexpr quint32 keyBesideLeftShift = 94;
+constexpr quint32 leftAltKey = KeyCodes::leftAlt + KeyCodes::firstOfX11;
+constexpr quint32 rightAltKey = KeyCodes::rightAlt + KeyCodes::firstOfX11;
+constexpr quint32 keypadDecimalKey = KeyCodes::keypadPoint + KeyCodes::firstOfX11;
+constexpr quint32 keyBesideLeftShift = KeyCodes::besideLeftShift + KeyCodes::firstOfX11;
 
 struct DeadKey {
     xkb_keysym_t symbol;
@@ -129,27 +130,28 @@ bool isDigit(quint32 character)
     return isBetween(character, '0', '9');
 }
 
-/// What the key types on a US keyboard, letters in upper case; 0 for keys that type nothing.
 quint32 usCharacterOn(quint32 keyCode)
 {
-    for (const KeyRun &run : usKeyboard) {
-        if (keyCode >= run.first && keyCode - run.first < std::strlen(run.characters))
-            return static_cast<unsigned char>(run.characters[keyCode - run.first]);
-    }
-    return 0;
+    return KeyCodes::usCharacterOf(static_cast<int>(keyCode) - KeyCodes::firstOfX11);
 }
 
-/// The visible character that the symbol stands for, letters in upper case; 0 for other symbols.
-quint32 characterOf(xkb_keysym_t symbol)
+/// The visible character that the symbol stands for; 0 for other symbols.
+quint32 typedBy(xkb_keysym_t symbol)
 {
     const auto *const dead =
             std::find_if(deadKeys.begin(), deadKeys.end(),
                          [symbol](const DeadKey &key) { return key.symbol == symbol; });
     if (dead != deadKeys.end())
         return dead->character;
-    const quint32 character = QChar::toUpper(xkb_keysym_to_utf32(symbol));
+    const quint32 character = xkb_keysym_to_utf32(symbol);
     const bool isVisible = QChar::isPrint(character) && !QChar::isSpace(character);
     return isVisible ? character : 0;
+}
+
+/// The same with letters in upper case.
+quint32 characterOf(xkb_keysym_t symbol)
+{
+    return QChar::toUpper(typedBy(symbol));
 }
 
 bool deliversKeySymbols()
@@ -158,13 +160,18 @@ bool deliversKeySymbols()
     return platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
 }
 
+XServer &xServer()
+{
+    static XServer server;
+    return server;
+}
+
 /// The layout that was active when the key was pressed; null where no X server tells it.
 Owned<xkb_state> layoutAt(const QKeyEvent &event)
 {
     if (QGuiApplication::platformName() != QLatin1String("xcb"))
         return nullptr;
-    static XServer server;
-    const Owned<xkb_keymap> keymap = server.keymap();
+    const Owned<xkb_keymap> keymap = xServer().keymap();
     Owned<xkb_state> layout(keymap ? xkb_state_new(keymap.get()) : nullptr);
     if (layout) {
         constexpr unsigned firstLayoutBit = 13; // in the state that each key event of X11 carries
@@ -175,13 +182,13 @@ Owned<xkb_state> layoutAt(const QKeyEvent &event)
     return layout;
 }
 
-/// What the key types in the layout while no modifier is held.
-xkb_keysym_t symbolOn(quint32 keyCode, xkb_state *layout)
+/// What the key types in the layout while no modifier is held, or at another level.
+xkb_keysym_t symbolOn(quint32 keyCode, xkb_state *layout, xkb_level_index_t level = 0)
 {
     const xkb_keysym_t *symbols = nullptr;
     const int count = xkb_keymap_key_get_syms_by_level(xkb_state_get_keymap(layout), keyCode,
-                                                       xkb_state_key_get_layout(layout, keyCode), 0,
-                                                       &symbols);
+                                                       xkb_state_key_get_layout(layout, keyCode),
+                                                       level, &symbols);
     return count == 1 ? *symbols : XKB_KEY_NoSymbol;
 }
 
@@ -273,6 +280,22 @@ int unshiftedCharacterOf(int virtualKey, const QKeyEvent &event)
     if (!deliversKeySymbols())
         return KeyNames::oemToKey(virtualKey);
     return static_cast<int>(unshiftedCharacter(event, layoutAt(event).get()));
+}
+
+KeyboardLayout layoutInUse()
+{
+    // Beside a Wayland compositor, an X server has the compositor's layout.
+    const Owned<xkb_state> state = deliversKeySymbols() ? xServer().state() : nullptr;
+    if (!state)
+        return {};
+    return KeyboardLayout([&state](int code) {
+        const auto keyCode = static_cast<quint32>(code + KeyCodes::firstOfX11);
+        const char32_t shifted = typedBy(symbolOn(keyCode, state.get(), 1));
+        // With Num Lock, the keypad types what is on the second level.
+        const char32_t plain =
+                code == KeyCodes::keypadPoint ? shifted : typedBy(symbolOn(keyCode, state.get()));
+        return KeyboardLayout::Characters{plain, shifted};
+    });
 }
 
 } // namespace CUI::NativeKeys

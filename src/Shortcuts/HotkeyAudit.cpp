@@ -6,8 +6,8 @@
 #include "JoinedHotkeys.h"
 #include "KeyNames.h"
 #include "NearbyKeys.h"
-#include "NearestHolder.h"
 #include "QvelShortcutManager.h"
+#include "SharedKey.h"
 
 #include <QHash>
 
@@ -135,9 +135,6 @@ private:
     void collect(const VelAction &action, const QShortcutsList &hotkeys);
     HeldKeys effectiveKeys() const;
     void compareContexts(const HeldKeys &holders);
-    int distance(unsigned long contextId, std::optional<unsigned long> focus) const;
-    bool countsEverywhere(unsigned long contextId) const;
-    ActionIdentifier acting(const HeldKeys &holders, std::optional<unsigned long> focus) const;
 
     const QvelShortcutManager &m_manager;
     const ICuiActionManager &m_registry;
@@ -251,52 +248,11 @@ HeldKeys Run::effectiveKeys() const
     return effective;
 }
 
-bool Run::countsEverywhere(unsigned long contextId) const
-{
-    return std::find(m_options.everywhere.begin(), m_options.everywhere.end(), contextId)
-           != m_options.everywhere.end();
-}
-
-int Run::distance(unsigned long contextId, std::optional<unsigned long> focus) const
-{
-    if (focus && *focus == contextId)
-        return 0;
-    const auto place =
-            std::find(m_options.everywhere.rbegin(), m_options.everywhere.rend(), contextId);
-    if (place == m_options.everywhere.rend())
-        return NearestHolder::outOfReach;
-    const auto fromLast = std::distance(m_options.everywhere.rbegin(), place);
-    return NearestHolder::wholeWindow
-           - (m_options.isEverywhereOrdered ? static_cast<int>(fromLast) : 0);
-}
-
-ActionIdentifier Run::acting(const HeldKeys &holders, std::optional<unsigned long> focus) const
-{
-    NearestHolder nearest;
-    for (const HeldKey &held : holders) {
-        const unsigned long context = held.holder.contextId;
-        nearest.offer(distance(context, focus), context, held.holder.action);
-    }
-    return nearest.action();
-}
-
 void Run::compareContexts(const HeldKeys &group)
 {
-    std::vector<Holder> holders = holdersOf(group);
-    const auto ofParts =
-            std::stable_partition(holders.begin(), holders.end(), [this](const Holder &holder) {
-                return countsEverywhere(holder.contextId);
-            });
-    if (ofParts == holders.begin() || holders.size() < 2)
-        return;
-    std::vector<Finding::Outcome> outcomes;
-    for (auto holder = ofParts; holder != holders.end(); ++holder)
-        outcomes.push_back({holder->contextId, acting(group, holder->contextId)});
-    const ActionIdentifier elsewhere = acting(group, std::nullopt);
-    outcomes.push_back({std::nullopt, elsewhere});
-    add(elsewhere.isEmpty() ? Kind::Ambiguous : Kind::Shadowed, portableText(group.front().key),
-        std::move(holders))
-            .outcomes = std::move(outcomes);
+    if (const auto finding =
+                SharedKey::finding(portableText(group.front().key), holdersOf(group), m_options))
+        m_findings.push_back(*finding);
 }
 
 void Run::findAcrossContexts()

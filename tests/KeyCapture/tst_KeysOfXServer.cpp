@@ -1,4 +1,6 @@
 #include "HotkeyRecorder.h"
+#include "KeyCodes.h"
+#include "NativeKeys.h"
 #include "QvelActionBinder.h"
 #include "QvelShortcutManager.h"
 #include "Text.h"
@@ -95,6 +97,8 @@ private Q_SLOTS:
     void withoutKeymap();
     void layouts_data();
     void layouts();
+    void layoutsThatAreBuiltIn_data();
+    void layoutsThatAreBuiltIn();
     void keypad_data();
     void keypad();
     void twoNamesOfOneKey();
@@ -275,6 +279,42 @@ void TestKeysOfXServer::layouts()
     setLayout(layout);
     QCOMPARE(typed(keys), hotkey);
     QCOMPARE(HotkeyRecorder::text(m_window.presses.last().capture), hotkey + held);
+}
+
+void TestKeysOfXServer::layoutsThatAreBuiltIn_data()
+{
+    QTest::addColumn<QString>("layout");
+    for (const QString &layout : KeyboardLayout::names())
+        QTest::newRow(qPrintable(layout)) << layout;
+}
+
+/// They are the system's, and each key makes the hotkey that the layout says.
+void TestKeysOfXServer::layoutsThatAreBuiltIn()
+{
+    QFETCH(QString, layout);
+    setLayout(layout);
+    const KeyboardLayout used = NativeKeys::layoutInUse();
+    const KeyboardLayout builtIn = *KeyboardLayout::named(layout);
+    QCOMPARE(used.shape(), builtIn.shape());
+    QStringList keys{s("key")};
+    QVector<int> expected;
+    for (int code = 1; code <= KeyCodes::yen; ++code) {
+        const KeyboardLayout::Characters typed = used.characters(code);
+        QVERIFY2(typed.plain == builtIn.characters(code).plain
+                         && typed.shifted == builtIn.characters(code).shifted,
+                 QByteArray::number(code));
+        if (typed.plain == 0 || code == KeyCodes::keypadPoint)
+            continue;
+        const int keyCode = code + KeyCodes::firstOfX11;
+        keys << QString::number(keyCode) << s("shift+%1").arg(keyCode);
+        expected << used.hotkeyKey(code) << 0 // of Shift alone
+                 << (used.hotkeyKey(code, true) | Qt::ShiftModifier);
+    }
+    m_window.presses.clear();
+    run("xdotool", keys);
+    QTRY_COMPARE_WITH_TIMEOUT(m_window.presses.size(), expected.size(), patience);
+    for (int i = 0; i < expected.size(); ++i)
+        QCOMPARE(m_window.presses.at(i).capture.combination, expected.at(i));
 }
 
 void TestKeysOfXServer::keypad_data()

@@ -135,6 +135,29 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyKeyboard</name>
+    <message>
+        <source>Not a hotkey</source>
+        <translation>Kein Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Belegt</translation>
+    </message>
+    <message>
+        <source>Taken in several groups</source>
+        <translation>In mehreren Gruppen belegt</translation>
+    </message>
+    <message>
+        <source>Reserved by the system</source>
+        <translation>Vom System reserviert</translation>
+    </message>
+</context>
+<context>
     <name>CUI::HotkeyReservation</name>
     <message>
         <source>Close window</source>

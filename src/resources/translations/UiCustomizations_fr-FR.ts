@@ -135,6 +135,29 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyKeyboard</name>
+    <message>
+        <source>Not a hotkey</source>
+        <translation>Pas un raccourci</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Libre</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Occupé</translation>
+    </message>
+    <message>
+        <source>Taken in several groups</source>
+        <translation>Occupé dans plusieurs groupes</translation>
+    </message>
+    <message>
+        <source>Reserved by the system</source>
+        <translation>Réservé par le système</translation>
+    </message>
+</context>
+<context>
     <name>CUI::HotkeyReservation</name>
     <message>
         <source>Close window</source>

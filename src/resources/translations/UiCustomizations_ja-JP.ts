@@ -135,6 +135,29 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyKeyboard</name>
+    <message>
+        <source>Not a hotkey</source>
+        <translation>ホットキー不可</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>空き</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>Taken in several groups</source>
+        <translation>複数のグループで使用中</translation>
+    </message>
+    <message>
+        <source>Reserved by the system</source>
+        <translation>システムが予約</translation>
+    </message>
+</context>
+<context>
     <name>CUI::HotkeyReservation</name>
     <message>
         <source>Close window</source>

@@ -135,6 +135,29 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyKeyboard</name>
+    <message>
+        <source>Not a hotkey</source>
+        <translation>단축키 불가</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>비어 있음</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>사용 중</translation>
+    </message>
+    <message>
+        <source>Taken in several groups</source>
+        <translation>여러 그룹에서 사용 중</translation>
+    </message>
+    <message>
+        <source>Reserved by the system</source>
+        <translation>시스템이 예약함</translation>
+    </message>
+</context>
+<context>
     <name>CUI::HotkeyReservation</name>
     <message>
         <source>Close window</source>

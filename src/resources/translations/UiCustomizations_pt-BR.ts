@@ -135,6 +135,29 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyKeyboard</name>
+    <message>
+        <source>Not a hotkey</source>
+        <translation>Não é atalho</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Livre</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Ocupado</translation>
+    </message>
+    <message>
+        <source>Taken in several groups</source>
+        <translation>Ocupado em vários grupos</translation>
+    </message>
+    <message>
+        <source>Reserved by the system</source>
+        <translation>Reservado pelo sistema</translation>
+    </message>
+</context>
+<context>
     <name>CUI::HotkeyReservation</name>
     <message>
         <source>Close window</source>

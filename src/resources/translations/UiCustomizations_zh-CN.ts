@@ -135,6 +135,29 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeyKeyboard</name>
+    <message>
+        <source>Not a hotkey</source>
+        <translation>不能作快捷键</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>空闲</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>已占用</translation>
+    </message>
+    <message>
+        <source>Taken in several groups</source>
+        <translation>在多个组中已占用</translation>
+    </message>
+    <message>
+        <source>Reserved by the system</source>
+        <translation>由系统保留</translation>
+    </message>
+</context>
+<context>
     <name>CUI::HotkeyReservation</name>
     <message>
         <source>Close window</source>
