@@ -23,6 +23,7 @@ private Q_SLOTS:
     void listsNamesThatNeedCare();
     void jsonHoldsWhatTheStoreHolds();
     void lints();
+    void drawsKeyboards();
     void validatesEveryFile();
 
 private:
@@ -143,6 +144,31 @@ void HotkeyCtlShowTest::jsonHoldsWhatTheStoreHolds()
     QCOMPARE(std::size_t(order.size()), host.catalogue().actions.size());
     QCOMPARE(identifiers.size(), order.size());
     QVERIFY(std::is_sorted(order.cbegin(), order.cend()));
+}
+
+void HotkeyCtlShowTest::drawsKeyboards()
+{
+    const ToolHost host;
+    const auto drawn = [&host](const char *options) {
+        const QString line = s("keyboard -o @/keys.svg ") + s(options);
+        const QString out = host.run(line).done();
+        return out + QString::fromUtf8(ToolHost::read(host.path("keys.svg")));
+    };
+    const QString both = s("<title>Ctrl+C\nTaken in several groups\n"
+                           "Copy (Editing)\nCopy (View)\n");
+    QVERIFY(drawn("--modifiers Ctrl").contains(both));
+    QVERIFY(drawn("--modifiers ctrl --context Editing --context View").contains(both));
+    QVERIFY(drawn("--modifiers Ctrl --context View")
+                    .contains(s("<title>Ctrl+C\nTaken\nCopy (View)\n")));
+    QVERIFY(drawn("--layout de").contains(s(">Ü<")));
+    QVERIFY(drawn("--shape jis").contains(s(">変換<")));
+
+    for (const char *line : {"keyboard", "keyboard -o keys.png", "keyboard -o a.svg --shape round",
+                             "keyboard -o a.svg --layout xx", "keyboard -o a.svg --modifiers A",
+                             "keyboard -o a.svg --modifiers Ctrl+"})
+        QVERIFY2(!host.run(line).refusal(2).isEmpty(), line);
+    QVERIFY(host.run("keyboard -o @/no/a.svg").refusal().contains(s("cannot be written")));
+    QVERIFY(host.run("keyboard -o @/a.svg --context Nowhere").refusal().contains(s("Nowhere")));
 }
 
 void HotkeyCtlShowTest::lints()

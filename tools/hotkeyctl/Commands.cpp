@@ -14,9 +14,10 @@ std::optional<QString> optionValue(const QCommandLineParser &line, const QString
 const std::vector<Command> &commands()
 {
     static const std::vector<Command> all = {
-            listCommand(),    ownerCommand(), lintCommand(),     assignCommand(), unassignCommand(),
-            stepsCommand(),   setsCommand(),  useCommand(),      diffCommand(),   showCommand(),
-            convertCommand(), baseCommand(),  validateCommand(),
+            listCommand(),   ownerCommand(),    keyboardCommand(), lintCommand(),
+            assignCommand(), unassignCommand(), stepsCommand(),    setsCommand(),
+            useCommand(),    diffCommand(),     showCommand(),     convertCommand(),
+            baseCommand(),   validateCommand(),
     };
     return all;
 }

@@ -8,6 +8,7 @@ namespace HotkeyCtl {
 
 Command listCommand();
 Command lintCommand();
+Command keyboardCommand();
 Command ownerCommand();
 Command assignCommand();
 Command unassignCommand();
