@@ -1,6 +1,7 @@
 #include "CustomizeDialog.h"
 
 #include "Icons.h"
+#include "SetBars.h"
 
 #include <UiCustomizations/IPathManager.h>
 #include <UiCustomizations/QvelActionItemModel.h>
@@ -36,12 +37,13 @@ QWidget *makeMenusView(CUI::QvelActionItemModel *model)
 
 } // namespace
 
-CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager *manager, QWidget *parent)
+CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeySetWatcher &watcher,
+                                 QWidget *parent)
     : QDialog(parent),
       m_manager(manager),
-      m_model(new CUI::QvelActionItemModel(manager, this)),
+      m_model(new CUI::QvelActionItemModel(&manager, this)),
       m_menuModel(new CUI::QvelActionItemModel(nullptr, this)),
-      m_editor(new CUI::QvelShortcutsWidget(m_model, manager)),
+      m_editor(new CUI::QvelShortcutsWidget(m_model, &manager)),
       m_log(new CUI::QvelMessageLogWidget),
       m_tabs(new QTabWidget)
 {
@@ -56,6 +58,7 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager *manager, QWidget *par
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     auto *layout = new QVBoxLayout(this);
+    new SetBars(watcher, layout, this);
     layout->addWidget(m_tabs);
     layout->addWidget(buttons);
     m_editor->setPresetComboBoxItemIcon(Icons::make(QStringLiteral("lock")));
@@ -72,8 +75,8 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager *manager, QWidget *par
     connect(m_editor, &CUI::QvelShortcutsWidget::presetModified, this, later);
     connect(m_editor, &CUI::QvelShortcutsWidget::modificationsSaved, this, later);
     connect(m_editor, &CUI::QvelShortcutsWidget::legacyHotkeySetConverted, this, later);
-    connect(manager, &CUI::QvelShortcutManager::shortcutConfigurationLoaded, this, later);
-    connect(manager, &CUI::QvelShortcutManager::shortcutTransformsCleared, this, later);
+    connect(&manager, &CUI::QvelShortcutManager::shortcutConfigurationLoaded, this, later);
+    connect(&manager, &CUI::QvelShortcutManager::shortcutTransformsCleared, this, later);
     showTitle();
 }
 
@@ -95,7 +98,7 @@ void CustomizeDialog::showTitle()
     // A window takes this mark in its title for the place of its own.
     name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     setWindowTitle(tr("Customize - %1[*]").arg(name));
-    setWindowModified(m_manager->isUserModified());
+    setWindowModified(m_manager.isUserModified());
 }
 
 bool CustomizeDialog::askToClose()

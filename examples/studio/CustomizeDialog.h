@@ -5,6 +5,7 @@
 class QTabWidget;
 
 namespace CUI {
+class HotkeySetWatcher;
 class QvelActionItemModel;
 class QvelMessageLogWidget;
 class QvelShortcutManager;
@@ -20,8 +21,9 @@ class CustomizeDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// @p manager is not owned and must outlive it.
-    explicit CustomizeDialog(CUI::QvelShortcutManager *manager, QWidget *parent = nullptr);
+    /// Owns neither @p manager nor @p watcher, the one of the manager's file; both must outlive it.
+    CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeySetWatcher &watcher,
+                    QWidget *parent);
 
     CUI::QvelShortcutsWidget *editor() const { return m_editor; }
     QTabWidget *tabs() const { return m_tabs; }
@@ -40,7 +42,7 @@ protected:
 private:
     void showTitle();
 
-    CUI::QvelShortcutManager *m_manager;
+    const CUI::QvelShortcutManager &m_manager;
     CUI::QvelActionItemModel *m_model;
     CUI::QvelActionItemModel *m_menuModel;
     CUI::QvelShortcutsWidget *m_editor;

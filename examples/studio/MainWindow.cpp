@@ -11,6 +11,7 @@
 #include "Timeline.h"
 #include "Viewport.h"
 
+#include <UiCustomizations/HotkeySetWatcher.h>
 #include <UiCustomizations/QvelActionBinder.h>
 #include <UiCustomizations/QvelMessageLogWidget.h>
 #include <UiCustomizations/QvelShortcutManager.h>
@@ -28,6 +29,7 @@ MainWindow::MainWindow(Host::SampleHost &host, CUI::QvelShortcutManager &store, 
     : QMainWindow(parent),
       m_host(host),
       m_store(store),
+      m_watcher(new CUI::HotkeySetWatcher(&store, this)),
       m_document(new Document(this)),
       m_view(new ViewState(this)),
       m_binder(new CUI::QvelActionBinder(&store, this)),
@@ -147,7 +149,7 @@ void MainWindow::setMode(const QString &name)
 CustomizeDialog *MainWindow::showCustomizeDialog()
 {
     if (m_dialog == nullptr) {
-        m_dialog = new CustomizeDialog(&m_store, this);
+        m_dialog = new CustomizeDialog(m_store, *m_watcher, this);
         m_dialog->setLoggedText(m_console->toPlainText());
     }
     m_dialog->show();

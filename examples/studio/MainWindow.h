@@ -19,6 +19,7 @@ class SampleHost;
 }
 
 namespace CUI {
+class HotkeySetWatcher;
 class QvelActionBinder;
 class QvelMessageLogWidget;
 class QvelShortcutManager;
@@ -108,6 +109,7 @@ private:
     Host::SampleHost &m_host;
     CUI::QvelShortcutManager &m_store;
     ActionTable m_table;
+    CUI::HotkeySetWatcher *m_watcher;
     Document *m_document;
     ViewState *m_view;
     CUI::QvelActionBinder *m_binder;
