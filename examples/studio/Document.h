@@ -40,7 +40,7 @@ public:
     int currentStep() const { return m_current; }
     /// The names of all edits, the start first.
     QStringList history() const;
-    /// Starts anew with that scene and an empty history.
+    /// Replaces the scene and empties the history.
     void reset(const Scene &scene);
 
 Q_SIGNALS:

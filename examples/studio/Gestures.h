@@ -8,7 +8,7 @@ class QWidget;
 
 namespace Studio {
 
-/// What a person does with mouse and keyboard, as events that go the way of the real ones.
+/// Mouse and keyboard input, sent as events in the way that the toolkit sends the real ones.
 namespace Gestures {
 
 /// Presses and releases a mouse button, in the middle of the widget or at @p place.

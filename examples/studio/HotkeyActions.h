@@ -18,7 +18,7 @@ class VelAction;
 namespace Studio {
 
 /// The entries of menus and tool bars for the actions of the registry, which are triggered through
-/// the registry. Their hotkeys come from a binder.
+/// the registry. A binder sets their hotkeys.
 class HotkeyActions : public QObject
 {
     Q_OBJECT

@@ -7,7 +7,8 @@
 
 namespace Studio {
 
-/// A polygon mesh with a selection of faces. Corners go counter-clockwise, seen from outside.
+/// A polygon mesh with a selection of faces. Corners are in counter-clockwise order, seen from
+/// outside.
 struct Mesh {
     struct Face {
         QVector<int> corners;

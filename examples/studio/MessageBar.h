@@ -15,7 +15,7 @@ class MessageBar : public QFrame
 public:
     explicit MessageBar(QWidget *parent = nullptr);
 
-    /// Shows the text, which is plain, and tells it to screen readers; an empty one hides the bar.
+    /// Shows the plain text and reports it to screen readers; an empty text hides the bar.
     void setText(const QString &text);
     QString text() const;
     /// Adds a button at the end. Return is left to the dialog's own buttons.

@@ -17,7 +17,7 @@ public:
 
     void frameSelected();
     void frameAll() { frame(everything()); }
-    /// Where a new node goes: the middle of what is seen.
+    /// The place of a new node: the middle of the visible part.
     QPointF centre() const { return toPlane(QPointF(width(), height()) / 2); }
 
     QSize sizeHint() const override { return {420, 240}; }

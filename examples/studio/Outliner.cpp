@@ -128,7 +128,7 @@ QTreeWidgetItem *Outliner::itemOf(int id) const
     return nullptr;
 }
 
-// Scenes are small: the tree is made anew rather than compared.
+// Scenes are small, so the tree is rebuilt rather than compared.
 void Outliner::rebuild()
 {
     if (m_isRebuilding)
@@ -185,7 +185,7 @@ void Outliner::takeSelection()
     QVector<int> ids;
     for (const QTreeWidgetItem *item : m_tree->selectedItems())
         ids.append(idOf(item));
-    // The tree must not be made anew inside of its own signal, while it handles a click.
+    // The tree must not be rebuilt in its own signal, while it handles a click.
     const QScopedValueRollback<bool> guard(m_isRebuilding, true);
     m_document->edit(QStringLiteral("Select"), [&ids](Scene &scene) { scene.selectOnly(ids); });
 }

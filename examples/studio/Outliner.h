@@ -10,7 +10,7 @@
 
 namespace Studio {
 
-/// The tree of the scene's objects, with a filter for their names. Dots behind a name tell whether
+/// The tree of the scene's objects, with a filter for their names. Dots after a name show whether
 /// the object is visible, selectable and rendered; a click on one toggles it.
 class Outliner : public QWidget
 {

@@ -45,7 +45,7 @@ struct Scene {
     void selectOnly(const QVector<int> &ids);
     void forSelected(const std::function<void(SceneObject &)> &change);
     void forSelectedHierarchy(const std::function<void(SceneObject &)> &change);
-    /// Removes objects; those below them go up to the next holder.
+    /// Removes objects; their children become children of the next parent.
     void remove(const QSet<int> &ids);
     /// Copies the selected objects, with all below them, and selects the copies.
     void duplicateSelected(QVector3D offset);

@@ -13,7 +13,7 @@ namespace Studio {
 
 class MainWindow;
 
-/// What the application is made of, in the order in which it is made: the host, the log, the store
+/// The parts of the application in the order of their creation: the host, the log, the store
 /// and the window. Ends in the reverse order.
 class StudioSession
 {

@@ -20,7 +20,7 @@ public:
     /// 1 forwards, -1 backwards, 0 stops.
     void play(int direction);
     int direction() const { return m_direction; }
-    /// Goes to a frame, and puts what is animated where it is then.
+    /// Shows a frame: moves everything that is animated to its place in it.
     void goTo(double frame);
     int frame() const;
     /// The nearest of @p frames after the playhead, or before it with -1; the playhead if none is.

@@ -62,7 +62,7 @@ QPolygonF UvView::polygon(const Mesh::Face &face) const
 QColor UvView::fill(const Mesh &mesh, int face) const
 {
     if (m_view->get().stretching) {
-        // The hue tells how large the face is on the texture for its size in the scene.
+        // The hue shows the size of the face on the texture relative to its size in the scene.
         const double share =
                 areaOf(QPolygonF(mesh.faces.at(face).uv)) / std::max(1e-6, areaOf(mesh, face));
         const double off = std::clamp(std::abs(std::log2(std::max(share, 1e-6) * 16)), 0.0, 4.0);

@@ -8,7 +8,7 @@
 
 namespace Studio {
 
-/// The one copy of the view settings; whoever shows them follows it.
+/// The one copy of the view settings; the views follow its signal.
 class ViewState : public QObject
 {
     Q_OBJECT

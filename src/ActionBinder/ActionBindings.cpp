@@ -1,6 +1,6 @@
 #include "ActionBindings.h"
 
-#include "ActionReach.h"
+#include "FocusDistance.h"
 #include "HotkeyRecorder.h"
 #include "ICuiActionManager.h"
 #include "KeyNames.h"
@@ -18,7 +18,7 @@ namespace CUI {
 
 namespace {
 
-/// What Qt shows for an action without a tool tip of its own.
+/// The tool tip that Qt derives from the text.
 QString textToolTip(const QAction &action)
 {
     return QAction(action.text()).toolTip();
@@ -34,7 +34,7 @@ QString withHotkey(const QString &toolTip, const QKeySequence &key)
     return toolTip + QLatin1String(" (") + hotkey + QLatin1Char(')');
 }
 
-/// One change of the action, whatever changes of it. A null @p toolTip stands for its text.
+/// Emits QAction::changed() once at most. A null @p toolTip stands for the action's text.
 void setOn(QAction *action, const QList<QKeySequence> &keys, const QString &toolTip)
 {
     const QPointer<QAction> alive(action);
@@ -48,8 +48,8 @@ void setOn(QAction *action, const QList<QKeySequence> &keys, const QString &tool
         action->setToolTip(toolTip);
 }
 
-/// What the application wants after it has set shortcuts on an action that had @p keys from here.
-/// QAction::setShortcut() leaves the alternative ones as they are.
+/// The shortcuts of the application after it has changed an action that had @p keys from the
+/// binder. QAction::setShortcut() replaces only the first one.
 QList<QKeySequence> withChange(const QList<QKeySequence> &own, const QList<QKeySequence> &keys,
                                const QAction &action)
 {
@@ -86,8 +86,8 @@ bool isMenuMnemonic(const QKeySequence &key)
     return false;
 }
 
-/// How the files of an application may name the key that was pressed: with what it types by itself
-/// (Ctrl+Shift+=), or with what Shift makes of it (Ctrl++).
+/// The two names that the pressed key can have: by its character without Shift (Ctrl+Shift+=) and
+/// by its character with Shift (Ctrl++).
 QList<QKeySequence> namesOf(const QKeyEvent &press)
 {
     QList<QKeySequence> names;
@@ -164,7 +164,6 @@ void ActionBindings::add(const ActionIdentifier &identifier, QAction *action)
 
 void ActionBindings::follow(QAction *action)
 {
-    // What a key press is about to do is seen nowhere else.
     if (m_bindings.empty() && QCoreApplication::instance() != nullptr)
         QCoreApplication::instance()->installEventFilter(&m_owner);
     QObject::connect(action, &QAction::changed, &m_owner, [this, action] { noteChange(action); });
@@ -214,7 +213,7 @@ ActionBindings::Binding *ActionBindings::find(const QAction *action)
     return found == m_bindings.end() ? nullptr : &found->second;
 }
 
-/// Returns the actions that have won a key. The forgotten one may be dead.
+/// Returns the actions that have got a key. The forgotten one may be in its destructor.
 ActionBindings::Actions ActionBindings::forget(const QAction *action)
 {
     const auto binding = m_bindings.find(action);
@@ -234,7 +233,7 @@ void ActionBindings::restore(QAction *action, const Binding &binding)
 {
     QObject::disconnect(action, nullptr, &m_owner, nullptr);
     if (QCoreApplication::instance() == nullptr)
-        return; // nobody presses keys any more
+        return; // the application is ending
     const QPointer<QAction> alive(action);
     for (const QPointer<QWidget> &home : binding.homes) {
         if (!home.isNull() && !alive.isNull())
@@ -260,7 +259,7 @@ void ActionBindings::update(const ActionIdentifier &identifier)
 
 void ActionBindings::refresh()
 {
-    // All claims first: what an action may use then changes once.
+    // With all claims set first, the keys of an action change once.
     std::vector<ActionIdentifier> all;
     for (const auto &entry : m_actions) {
         m_claims.set(entry.first, contextOf(entry.first), keysInStore(entry.first));
@@ -339,7 +338,7 @@ void ActionBindings::apply(QAction *action, Binding &binding)
     const bool isText = binding.followsText && binding.keys.isEmpty();
     const QPointer<QObject> owner(&m_owner);
     m_changing.insert(action);
-    const QList<QKeySequence> keys = binding.keys; // the binding may go while they are being set
+    const QList<QKeySequence> keys = binding.keys; // the binding may be removed meanwhile
     setOn(action, keys, isText ? QString() : binding.toolTip);
     if (!owner.isNull())
         m_changing.erase(action);
@@ -356,7 +355,7 @@ void ActionBindings::noteChange(QAction *action)
     }
     if (action->shortcuts() != binding->keys)
         binding->ownKeys = withChange(binding->ownKeys, binding->keys, *action);
-    // Whoever answers each change with another one has the last word, or it would never end.
+    // A slot of the application that changes the action again must not cause endless changes.
     if (m_changing.count(action) == 0)
         apply(action, *binding);
 }
@@ -416,7 +415,7 @@ ActionBindings::Answer ActionBindings::answer(const QAction *action, const QKeyS
         const bool isStray = action != nullptr
                              && m_places.widgetsOf(contextOf(identifier)) != nullptr
                              && action->associatedGraphicsWidgets().isEmpty()
-                             && distanceOf(*action, identifier) == ActionReach::outOfReach;
+                             && distanceOf(*action, identifier) == FocusDistance::outOfReach;
         return {isStray, nullptr};
     }
     Holders holders = holdersOf({key});
@@ -439,11 +438,10 @@ bool ActionBindings::hasHolder(const QKeyEvent &press) const
 
 int ActionBindings::distanceOf(const QAction &action, const ActionIdentifier &identifier) const
 {
-    return ActionReach::distance(action, m_places.widgetsOf(contextOf(identifier)));
+    return FocusDistance::of(action, m_places.widgetsOf(contextOf(identifier)));
 }
 
-/// Those that Qt may have found, and the one among them that the key is meant for, if that is
-/// clear.
+/// The actions that Qt may have found, and the nearest of them.
 ActionBindings::Holders ActionBindings::holdersOf(const QList<QKeySequence> &keys) const
 {
     Holders holders;
@@ -457,7 +455,7 @@ ActionBindings::Holders ActionBindings::holdersOf(const QList<QKeySequence> &key
             if (!holds || !action->isEnabled())
                 continue;
             const int distance = distanceOf(*action, identifier);
-            if (distance != ActionReach::outOfReach || ActionReach::isInActiveWindow(*action))
+            if (distance != FocusDistance::outOfReach || FocusDistance::isInActiveWindow(*action))
                 ++holders.count;
             const HotkeyClaims::Context context = contextOf(identifier);
             if (nearest.offer(distance, context, identifier, m_places.rankOf(context)))

@@ -14,10 +14,10 @@ namespace CUI {
 
 class QvelShortcutManager;
 
-/// The bound actions of a QvelActionBinder, and what they show of the store.
+/// The bound actions of a QvelActionBinder, and the shortcuts and tool tips that they have from it.
 ///
-/// Setting anything on an action runs code of the application, which may bind, unbind and destroy
-/// whatever it likes: after each such call everything is looked up again.
+/// Changing an action emits signals, and the slots of the application may bind, unbind and destroy
+/// any action: after each change everything is looked up again.
 class ActionBindings
 {
 public:
@@ -36,7 +36,7 @@ public:
                            const std::optional<std::vector<QWidget *>> &widgets);
     void setContextOrder(const std::vector<unsigned long> &contextIds);
 
-    /// Reads contexts and hotkeys of all anew.
+    /// Reads the contexts and hotkeys of all actions again.
     void refresh();
 
     struct Answer {
@@ -55,12 +55,12 @@ private:
 
     struct Binding {
         ActionIdentifier identifier;
-        // What the application wants, for the end.
+        // What the application has set, to be restored at the end.
         QList<QKeySequence> ownKeys;
         QString ownToolTip;
         bool followsText = false; // without a tool tip of its own, an action shows its text
         Qt::ShortcutContext ownContext = Qt::WindowShortcut;
-        // What it got here. Anything else was set by the application meanwhile.
+        // What the binder has set. Any other value was set by the application.
         QList<QKeySequence> keys;
         QString toolTip;
         ContextPlaces::Widgets homes; // the widgets that it was added to
@@ -92,7 +92,7 @@ private:
 
     QObject &m_owner;
     QPointer<QvelShortcutManager> m_manager;
-    int m_loads = 0; // that have begun and not ended
+    int m_loads = 0; // loads that have begun and not ended
     std::unordered_map<const QAction *, Binding> m_bindings;
     std::unordered_map<ActionIdentifier, std::vector<QAction *>> m_actions; // in binding order
     HotkeyClaims m_claims;

@@ -1,10 +1,10 @@
 #include "QvelActionBinder.h"
 
 #include "ActionBindings.h"
-#include "AdoptedActions.h"
 #include "HeldActions.h"
 #include "LazyLog.h"
 #include "QvelShortcutManager.h"
+#include "WindowActionRegistry.h"
 #include "WindowActions.h"
 
 #include <QAbstractSpinBox>
@@ -25,7 +25,7 @@ namespace {
 ICuiActionManager &installedRegistry()
 {
     if (ICuiActionManager::get() == nullptr) {
-        std::unique_ptr<ICuiActionManager> registry = std::make_unique<AdoptedActions>();
+        std::unique_ptr<ICuiActionManager> registry = std::make_unique<WindowActionRegistry>();
         ICuiActionManager::set(registry);
     }
     return *ICuiActionManager::get();
@@ -95,8 +95,8 @@ bool isEditedText(const QObject *receiver)
     return qobject_cast<const QAbstractSpinBox *>(receiver) != nullptr;
 }
 
-/// True for the keys with which a person ends or leaves a line of text. Where a text has several
-/// lines, the toolkit keeps them there.
+/// True for the keys that end or leave a line of text. In a text of several lines, the toolkit
+/// itself leaves them to the text.
 bool endsText(const QKeyEvent &press)
 {
     if ((press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != 0)
@@ -185,7 +185,7 @@ void QvelActionBinder::Private::registerAction(ICuiActionManager &registry,
                                                const WindowActions::Found &found,
                                                unsigned long contextId)
 {
-    auto *adopted = qobject_cast<AdoptedActions *>(&registry);
+    auto *adopted = qobject_cast<WindowActionRegistry *>(&registry);
     if (adopted != nullptr)
         adopted->addSource(identifier, found.action);
     if (registry.getAction(identifier) != nullptr)
@@ -199,7 +199,7 @@ void QvelActionBinder::Private::registerAction(ICuiActionManager &registry,
         adopted->addDefaults(identifier, hotkeys);
     for (const QString &hotkey : hotkeys)
         defaults.emplace_back(identifier, hotkey);
-    warnOfSequences(shortcuts, identifier); // last, for those who read it may destroy the binder
+    warnOfSequences(shortcuts, identifier); // last: a slot may destroy the binder
 }
 
 QvelActionBinder::QvelActionBinder(QvelShortcutManager *manager, QObject *parent)
@@ -282,7 +282,7 @@ unsigned long QvelActionBinder::adopt(QWidget *window, unsigned long tableId,
                             : action->objectName());
         }
     }
-    // From here on the application hears of things, and may destroy actions and the binder.
+    // From here on slots of the application may destroy actions and the binder.
     const QPointer<QvelActionBinder> alive(this);
     for (std::size_t i = 0; i < found.size() && !alive.isNull(); ++i) {
         if (!identifiers[i].isEmpty() && !found[i].action.isNull())
@@ -290,7 +290,7 @@ unsigned long QvelActionBinder::adopt(QWidget *window, unsigned long tableId,
     }
     for (std::size_t i = 0; i < found.size() && !alive.isNull(); ++i) {
         if (!identifiers[i].isEmpty())
-            bind(identifiers[i], found[i].action); // none, if it is gone
+            bind(identifiers[i], found[i].action); // null when it was destroyed
     }
     return context;
 }
@@ -372,7 +372,7 @@ void QvelActionBinder::Private::trigger(QAction *action)
 
 void QvelActionBinder::Private::release(const QKeyEvent &key)
 {
-    // A keyboard that repeats releases the key each time as well.
+    // While a key repeats, it is also released each time.
     const ActionIdentifier ended = key.isAutoRepeat() ? ActionIdentifier() : m_held.release(key);
     if (!ended.isEmpty())
         Q_EMIT q.released(ended);

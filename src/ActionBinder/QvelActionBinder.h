@@ -37,14 +37,14 @@ class QvelShortcutManager;
 /// in its tool tip: "Undo (Ctrl+Z)", in the language and the symbols of the system. They follow
 /// every edit and every load; during a load nothing changes, and after it each action changes at
 /// most once, with one QAction::changed(). Texts that name no key are left out. Shortcuts that the
-/// application sets on a bound action do not stay. A tool tip that it sets is the new base of what
-/// is shown; without one of its own, the tool tip follows the action's text, as it does in Qt.
+/// application sets on a bound action are replaced at once. A tool tip that it sets is shown with
+/// the hotkey; without one, the tool tip follows the action's text, as it does in Qt.
 ///
 /// Within one context a key never is ambiguous between bound actions. Where the store has two texts
 /// for one key (Ctrl+Shift+Z, Shift+Ctrl+Z, or on a keyboard of the USA, Ctrl+Shift+= and Ctrl++),
 /// the action with the smallest identifier gets it, and where several QActions are bound to one
 /// identifier, the first of them that is enabled and within reach is triggered. Enter stands for
-/// Return as well, which the hotkey editor records by that name, unless another action has Return.
+/// Return as well, which the hotkey editor records as Enter, unless another action has Return.
 /// Where actions of several contexts are within reach, the one whose context's widget is nearest to
 /// the keyboard focus is triggered, and one of a context without widget last. setContextOrder()
 /// decides between contexts that are equally near; without it they are ambiguous, and so are
@@ -71,7 +71,7 @@ public:
     /// \name Single actions
     /// @{
 
-    /// Binds @p action to @p identifier. An action that is bound already is bound anew; an empty
+    /// Binds @p action to @p identifier. An action that is bound already is bound again; an empty
     /// identifier unbinds it. Several actions may be bound to one identifier. The context is the
     /// one that the installed registry knows for the identifier; refresh() asks for it again, and
     /// so does every load.
@@ -108,8 +108,8 @@ public:
     /// Qt::WindowShortcut.
     void setContextWidgets(unsigned long contextId, const std::vector<QWidget *> &widgets);
 
-    /// Of contexts that are equally near to the focus, the first in @p contextIds gets the key, and
-    /// those that are not in it come last. Replaces the order of before.
+    /// Of contexts that are equally near to the focus, the first in @p contextIds gets the key;
+    /// contexts that are not in it come last. Replaces the previous order.
     void setContextOrder(const std::vector<unsigned long> &contextIds);
     /// @}
 
@@ -124,9 +124,10 @@ public:
     ///
     /// They are registered in the installed ICuiActionManager, with
     /// - @p tableId and QAction::objectName(), or where it is empty, title of the menu and text in
-    ///   lower camel case ("fileSaveAs"). What is taken gets a number from 2 on behind it, object
-    ///   names before derived ones. Identifiers go into the user's files: an application whose
-    ///   texts change, with its language for example, gives its actions object names.
+    ///   lower camel case ("fileSaveAs"). A name that is taken gets a number from 2 on at its end;
+    ///   object names come before derived ones. Identifiers are written to the user's files: an
+    ///   application whose texts change, with its language for example, gives its actions object
+    ///   names.
     /// - the text without mnemonic and ellipsis ("&Open..." is "Open"), and the title of the menu
     ///   or toolbar as category.
     /// - @p contextId. Where it is not given, the context of that name, or a new one. A context
@@ -141,9 +142,9 @@ public:
     /// same gets it, with a warning in the log, as everywhere in the store. Shortcuts of several
     /// key combinations (Ctrl+K, Ctrl+C) are no hotkeys and are left out, with a warning.
     ///
-    /// When no registry is installed, the binder installs one, which stays when the binder is gone.
-    /// It hands the default hotkeys to the store, and its triggerAction() triggers the action. An
-    /// application that has installed its own calls defaultAccelerators() in its
+    /// When no registry is installed, the binder installs one, which stays when the binder is
+    /// destroyed. It hands the default hotkeys to the store, and its triggerAction() triggers the
+    /// action. An application that has installed its own calls defaultAccelerators() in its
     /// getDefaultAccelerators().
     ///
     /// Returns the id of the context; 0 for a null @p window.
@@ -156,7 +157,7 @@ public:
     /// @}
 
 public Q_SLOTS:
-    /// Reads all contexts and hotkeys anew. For an application that has registered, moved or
+    /// Reads all contexts and hotkeys again. For an application that has registered, moved or
     /// renamed actions after they were bound.
     void refresh();
 
@@ -170,8 +171,8 @@ Q_SIGNALS:
     void released(const CUI::ActionIdentifier &identifier);
 
 protected:
-    /// Decides what a key triggers where Qt would find it ambiguous or look too far, and keeps
-    /// track of held keys.
+    /// Chooses the action that a key triggers where Qt would find it ambiguous or trigger one of
+    /// another context, and keeps track of held keys.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -29,7 +29,7 @@ public:
                 visit(bar->actions(), plainText(bar->windowTitle()));
         }
         visit(m_window.actions(), QString());
-        // Further down there are menus that Qt makes for itself, such as those of MDI windows.
+        // Deeper menus may be made by Qt itself, such as those of MDI windows.
         for (const QMenu *menu :
              m_window.findChildren<QMenu *>(QString(), Qt::FindDirectChildrenOnly))
             visitMenu(menu);
@@ -72,7 +72,7 @@ private:
         }
     }
 
-    // A button that was put into a toolbar as a widget brings its action or its menu with it.
+    // A button that was added to a toolbar as a widget has its own action or menu.
     static const QToolButton *buttonOf(const QAction *action)
     {
         const auto *widgetAction = qobject_cast<const QWidgetAction *>(action);
@@ -101,7 +101,7 @@ std::vector<Found> collect(const QWidget &window)
 
 QString plainText(const QString &text)
 {
-    // Where the text has no letter of the keyboard, the mnemonic stands behind it in parentheses.
+    // A text without Latin letters has its mnemonic in parentheses at the end.
     static const QRegularExpression appended(QStringLiteral("\\s*\\(&[^&]\\)"));
     static const QRegularExpression mnemonic(QStringLiteral("&(.|$)"));
     static const QRegularExpression ellipsis(QStringLiteral("\\s*(\\.\\.\\.|\u2026)\\s*$"));

@@ -25,8 +25,8 @@ struct Found {
 /// belongs to another window whose parent this one is.
 std::vector<Found> collect(const QWidget &window);
 
-/// The text without mnemonics, without what stands behind a tabulator, and without the ellipsis at
-/// its end: "&Open..." is "Open".
+/// The text without mnemonics, without a tab and the text after it, and without an ellipsis at its
+/// end: "&Open..." is "Open".
 QString plainText(const QString &text);
 
 /// The words of both texts in lower camel case: "File" and "Save As" make "fileSaveAs". Never

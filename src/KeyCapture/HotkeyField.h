@@ -21,7 +21,7 @@ class HotkeyField : public QObject
     Q_OBJECT
 
 public:
-    /// When the edit stops to show modifiers that were pressed without another key.
+    /// When modifiers that were pressed without another key are removed from the edit.
     enum class Modifiers { UntilReleased, UntilLeft };
 
     /// An active field. @p edit owns it.

@@ -50,7 +50,7 @@ int heldModifiers(const QKeyEvent &event, int virtualKey)
     return held & (int{Qt::ShiftModifier} | int{Qt::ControlModifier} | int{Qt::AltModifier});
 }
 
-/// The key itself, not what Shift and the like make of it.
+/// The key as it is without Shift and other modifiers.
 int unshiftedKey(const QKeyEvent &event, int virtualKey)
 {
     if (VirtualKeys::isDigitOrLetter(virtualKey))

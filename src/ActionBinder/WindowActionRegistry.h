@@ -12,7 +12,7 @@ namespace CUI {
 
 /// The registry of an application that has none of its own: the actions that binders have adopted,
 /// with their default hotkeys.
-class AdoptedActions : public ICuiActionManager
+class WindowActionRegistry : public ICuiActionManager
 {
     Q_OBJECT
 

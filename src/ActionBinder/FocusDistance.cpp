@@ -1,4 +1,4 @@
-#include "ActionReach.h"
+#include "FocusDistance.h"
 
 #include <QAction>
 #include <QApplication>
@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace CUI::ActionReach {
+namespace CUI::FocusDistance {
 
 namespace {
 
@@ -39,7 +39,7 @@ int distanceFromFocus(const QWidget *widget)
 
 } // namespace
 
-int distance(const QAction &action, const ContextPlaces::Widgets *widgets)
+int of(const QAction &action, const ContextPlaces::Widgets *widgets)
 {
     if (widgets == nullptr)
         return isInActiveWindow(action) ? wholeWindow : outOfReach;
@@ -74,4 +74,4 @@ bool isInActiveWindow(const QAction &action)
     });
 }
 
-} // namespace CUI::ActionReach
+} // namespace CUI::FocusDistance

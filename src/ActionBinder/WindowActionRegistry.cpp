@@ -1,10 +1,10 @@
-#include "AdoptedActions.h"
+#include "WindowActionRegistry.h"
 
 #include <algorithm>
 
 namespace CUI {
 
-bool AdoptedActions::triggerAction(const ActionIdentifier &identifier)
+bool WindowActionRegistry::triggerAction(const ActionIdentifier &identifier)
 {
     const auto sources = m_sources.find(identifier);
     if (sources == m_sources.end())
@@ -18,19 +18,20 @@ bool AdoptedActions::triggerAction(const ActionIdentifier &identifier)
     return false;
 }
 
-void AdoptedActions::getDefaultAccelerators(
+void WindowActionRegistry::getDefaultAccelerators(
         QvelShortcutManager *, std::vector<std::pair<ActionIdentifier, QString>> &accelerators)
 {
     accelerators.insert(accelerators.end(), m_defaults.begin(), m_defaults.end());
 }
 
-void AdoptedActions::addDefaults(const ActionIdentifier &identifier, const QStringList &hotkeys)
+void WindowActionRegistry::addDefaults(const ActionIdentifier &identifier,
+                                       const QStringList &hotkeys)
 {
     for (const QString &hotkey : hotkeys)
         m_defaults.emplace_back(identifier, hotkey);
 }
 
-void AdoptedActions::addSource(const ActionIdentifier &identifier, QAction *action)
+void WindowActionRegistry::addSource(const ActionIdentifier &identifier, QAction *action)
 {
     std::vector<QPointer<QAction>> &sources = m_sources[identifier];
     sources.erase(std::remove(sources.begin(), sources.end(), nullptr), sources.end());
