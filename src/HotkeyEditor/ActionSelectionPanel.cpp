@@ -5,6 +5,7 @@
 #include "EditorText.h"
 #include "FocusWithin.h"
 #include "HotkeyEditorForm.h"
+#include "HotkeyEdits.h"
 #include "HotkeyField.h"
 #include "JoinedHotkeys.h"
 #include "QvelActionItem.h"
@@ -218,7 +219,7 @@ void ActionSelectionPanel::assign()
     m_field->clear();
     if (isHeld)
         return;
-    m_manager->assignShortcut(id, shortcut, name);
+    HotkeyEdits::give(*m_manager, id, shortcut, name);
     hideReassignControls();
 }
 
@@ -255,7 +256,7 @@ void ActionSelectionPanel::removeFromHolder()
     // The edit may change the fields while its signals are delivered.
     const ActionIdentifier id = m_removedFromId;
     const QString name = m_removedFromName;
-    m_manager->unassignShortcut(id, shortcut, name);
+    HotkeyEdits::take(*m_manager, id, shortcut, name);
     updateAssignedShortcutFields();
     showReassignControls();
 }
@@ -267,7 +268,7 @@ void ActionSelectionPanel::undoRemoval()
     const ActionIdentifier id = m_removedFromId;
     const QString name = m_removedFromName;
     const QString shortcut = m_removedHotkey;
-    m_manager->assignShortcut(id, shortcut, name);
+    HotkeyEdits::give(*m_manager, id, shortcut, name);
     hideReassignControls();
     updateAssignedShortcutFields();
 }
@@ -278,7 +279,7 @@ void ActionSelectionPanel::removeRow(const QString &shortcut)
     if (action == nullptr)
         return;
     const ActionIdentifier id = action->identifier();
-    m_manager->unassignShortcut(id, shortcut, action->name());
+    HotkeyEdits::take(*m_manager, id, shortcut, action->name());
     m_rows->addRemoved(shortcut);
     m_field->clear();
 }
@@ -293,7 +294,7 @@ void ActionSelectionPanel::undoRow(const QString &shortcut)
         return;
     }
     const ActionIdentifier id = action->identifier();
-    m_manager->assignShortcut(id, shortcut, action->name());
+    HotkeyEdits::give(*m_manager, id, shortcut, action->name());
     m_field->clear();
 }
 

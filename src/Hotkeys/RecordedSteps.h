@@ -46,6 +46,9 @@ public:
 
     /// Adds an unsaved step. It is cancelled with others only by the calls below.
     void append(const ShortcutTransformation &step);
+    /// Adds an unsaved step in the place of all others, saved ones as well, for the same action and
+    /// hotkey.
+    void restate(const ShortcutTransformation &step);
     void cancelUnsaved();
     /// Cancels saved steps as well, from index @p start on. The number of saved steps stays as it
     /// is, even beyond the end of the list.
@@ -76,11 +79,16 @@ private:
     };
 
     void clampSaved();
+    void cancelLast();
+    void removeAt(std::size_t index);
+    void forget();
 
     Steps m_steps;
     std::size_t m_savedCount = 0;
     bool m_lacksSavedSteps = false;
     std::vector<Refused> m_refused; // in the order of their places
+    /// How many of the first steps are cancelled already, as far as they are unsaved.
+    std::size_t m_cancelledCount = 0;
     /// The actions of the unsaved steps, once they were asked for. Filtering 10,000 actions by
     /// 1,000 steps takes 51 ms without it.
     std::optional<std::unordered_set<ActionIdentifier>> m_touchedActions;

@@ -3,7 +3,7 @@
 #include "ICuiActionManager.h"
 #include "KeyNames.h"
 #include "KnownFile.h"
-#include "LazyLog.h"
+#include "ReassignmentLog.h"
 #include "RecordedSteps.h"
 #include "ShortcutOwnerIndex.h"
 
@@ -51,6 +51,11 @@ const ShortcutMap &QvelShortcutManager::getShortcuts() const
     return currentShortcuts;
 }
 
+const ShortcutMap &QvelShortcutManager::getBaseShortcuts() const
+{
+    return baseShortcuts;
+}
+
 const std::vector<ShortcutTransformation> &QvelShortcutManager::currentTransformations() const
 {
     return transformations->steps();
@@ -69,18 +74,7 @@ QString QvelShortcutManager::getBaseShortcutsFromActionId(const ActionIdentifier
 ActionIdentifier QvelShortcutManager::getActionIdFromShortcut(const QString &shortcut,
                                                               unsigned long contextId) const
 {
-    const ICuiActionManager *registry = ICuiActionManager::get();
-    if (registry == nullptr)
-        return {};
-    ActionIdentifier first;
-    for (const ActionIdentifier &owner : ownerIndex->owners(shortcut)) {
-        // Asked anew each time: the host may have given the action another context meanwhile.
-        const VelAction *action = registry->getAction(owner);
-        if (action != nullptr && action->contextId() == contextId
-            && (first.isEmpty() || owner < first))
-            first = owner;
-    }
-    return first;
+    return ownerIndex->owner(shortcut, contextId);
 }
 
 bool QvelShortcutManager::hasRoomForShortcuts(const ActionIdentifier &identifier) const
@@ -158,11 +152,7 @@ bool QvelShortcutManager::assignShortcutInternal(const ActionIdentifier &identif
     }
     if (!holder.isEmpty() && holder != identifier) {
         const ScopedMessageTypeCap cap(log, QvelMessageLog::Warning);
-        logLazily(QvelMessageLog::Warning, [&] {
-            return QStringLiteral("Removing existing shortcut '%1' from '%2' and assigning it to "
-                                  "'%3'.")
-                    .arg(shortcut, holder.toString(), identifier.toString());
-        });
+        logReassignment(shortcut, holder, identifier);
         unassignShortcutInternal(holder, shortcut, userModification);
     }
 
@@ -264,6 +254,13 @@ void QvelShortcutManager::clearShortcuts()
 }
 
 // State
+
+void QvelShortcutManager::restate(const ShortcutTransformation &step)
+{
+    transformations->restate(step);
+    checkModifiedAndEmit();
+    Q_EMIT shortcutTransformAdded(step);
+}
 
 void QvelShortcutManager::markStepsSaved()
 {

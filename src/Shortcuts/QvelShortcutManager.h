@@ -47,6 +47,8 @@ public:
     /// The hotkeys in effect. Only actions that hold at least one have an entry. The reference
     /// stays valid; what it leads to changes with every edit.
     const std::unordered_map<ActionIdentifier, QShortcutsList> &getShortcuts() const;
+    /// The hotkeys of the base configuration, likewise.
+    const std::unordered_map<ActionIdentifier, QShortcutsList> &getBaseShortcuts() const;
     /// The recorded steps, oldest first. The reference is valid until the next edit.
     const std::vector<ShortcutTransformation> &currentTransformations() const;
     /// The action's hotkeys in effect, joined with ", "; null when it has none.
@@ -280,6 +282,7 @@ Q_SIGNALS:
     void shortcutConfigurationLoaded(const QString &path);
 
 private:
+    friend class HotkeyEdits;
     using ShortcutMap = std::unordered_map<ActionIdentifier, QShortcutsList>;
     enum class Loaded { Nothing, Part, Everything };
 
@@ -288,6 +291,7 @@ private:
     void unassignShortcutInternal(const ActionIdentifier &identifier, const QString &shortcut,
                                   bool userModification);
     bool hasRoomForShortcuts(const ActionIdentifier &identifier) const;
+    void restate(const ShortcutTransformation &step);
     void markStepsSaved();
     void checkModifiedAndEmit();
     void dropTransforms();

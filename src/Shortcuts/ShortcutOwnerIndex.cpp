@@ -1,5 +1,7 @@
 #include "ShortcutOwnerIndex.h"
 
+#include "ICuiActionManager.h"
+
 #include <algorithm>
 
 namespace CUI {
@@ -42,6 +44,22 @@ const std::vector<ActionIdentifier> &ShortcutOwnerIndex::owners(const QString &s
     static const std::vector<ActionIdentifier> none;
     const auto it = m_owners.find(CaseInsensitiveKey{shortcut});
     return it == m_owners.end() ? none : it->second;
+}
+
+ActionIdentifier ShortcutOwnerIndex::owner(const QString &shortcut, unsigned long contextId) const
+{
+    const ICuiActionManager *registry = ICuiActionManager::get();
+    if (registry == nullptr)
+        return {};
+    ActionIdentifier first;
+    for (const ActionIdentifier &holder : owners(shortcut)) {
+        // Asked each time: the host may have given the action another context meanwhile.
+        const VelAction *action = registry->getAction(holder);
+        if (action != nullptr && action->contextId() == contextId
+            && (first.isEmpty() || holder < first))
+            first = holder;
+    }
+    return first;
 }
 
 } // namespace CUI

@@ -21,6 +21,10 @@ public:
     /// The holders of @p shortcut in no particular order; usually one for each context.
     const std::vector<ActionIdentifier> &owners(const QString &shortcut) const;
 
+    /// The holder of @p shortcut that the registry knows in that context, the one with the smallest
+    /// identifier when there are several; the empty identifier when there is none.
+    ActionIdentifier owner(const QString &shortcut, unsigned long contextId) const;
+
 private:
     std::unordered_map<CaseInsensitiveKey, std::vector<ActionIdentifier>, CaseInsensitiveKeyHash>
             m_owners;

@@ -23,6 +23,7 @@ private:
     void act();
     void answerDialog();
     void changeFiles();
+    void save();
     void clickButton();
     void compare();
     void compareList();
@@ -34,6 +35,7 @@ private:
         return list.at(below(list.size()));
     }
 
+    int m_savesCompared = 0;
     std::mt19937 m_random{20};
     EditorHarness m;
 };
@@ -67,9 +69,11 @@ void TestHotkeyEditorMonkey::changeFiles()
         m.host.write(name, "<VelHotkeyTransformations><Assign_Hotkey");
         break;
     default:
-        m.host.write(name, "<VelHotkeyTransformations><Assign_Hotkey Shortcut='F"
-                                   + QByteArray::number(2 + below(9))
-                                   + "' Description='Box' Id='1-box'/></VelHotkeyTransformations>");
+        m.host.write(name, s("<VelHotkeyTransformations><Assign_Hotkey Shortcut='%1' "
+                             "Description='' Id='%2'/></VelHotkeyTransformations>")
+                                   .arg(oneOf(list("B|S|Ctrl+S|F5")),
+                                        oneOf(list("1-box|1-boxes|1-sphere")))
+                                   .toUtf8());
     }
 }
 
@@ -102,7 +106,10 @@ void TestHotkeyEditorMonkey::act()
         changeFiles();
         break;
     case 7:
-        m.triggerOption(below(2) == 0 ? "Save" : "Reset");
+        if (below(2) == 0)
+            save();
+        else
+            m.triggerOption("Reset");
         break;
     case 8:
         if (below(5) == 0)
@@ -112,6 +119,26 @@ void TestHotkeyEditorMonkey::act()
         if (below(2) == 0)
             m.press(key, modifiers);
         clickButton();
+    }
+}
+
+// What was saved loads to what is shown.
+void TestHotkeyEditorMonkey::save()
+{
+    const bool wasModified = m.manager.isUserModified();
+    m.triggerOption("Save");
+    if (!wasModified || m.manager.isUserModified())
+        return;
+    CUI::QvelShortcutManager loaded;
+    loaded.loadCurrentShortcutConfiguration();
+    for (const CUI::ActionIdentifier &id : {box, boxes, sphere, bevel}) {
+        const auto hotkeys = [&id](const CUI::QvelShortcutManager &store) {
+            QStringList list = store.getShortcutsFromActionId(id).split(s(", "));
+            list.sort();
+            return list;
+        };
+        QCOMPARE(hotkeys(loaded), hotkeys(m.manager));
+        ++m_savesCompared;
     }
 }
 
@@ -188,6 +215,7 @@ void TestHotkeyEditorMonkey::widgetsAgreeWithTheStore()
         }
     }
     QVERIFY(steps > 100);
+    QVERIFY(m_savesCompared > 0);
 }
 
 QTEST_MAIN(TestHotkeyEditorMonkey)

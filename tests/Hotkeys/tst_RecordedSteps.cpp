@@ -1,9 +1,9 @@
+#include "PlainStore.h"
 #include "RecordedSteps.h"
 #include "Text.h"
 
 #include <QtTest>
 
-#include <list>
 #include <random>
 
 using CUI::ActionIdentifier;
@@ -12,28 +12,6 @@ using Step = CUI::ShortcutTransformation;
 using Steps = RecordedSteps::Steps;
 
 namespace {
-
-// The rule in its plain form: take the first step, scan the rest for its opposite.
-void collapsePlainly(Steps &steps, std::size_t start)
-{
-    std::list<Step> rest(steps.begin() + std::ptrdiff_t(start), steps.end());
-    steps.resize(start);
-    while (!rest.empty()) {
-        const Step step = rest.front();
-        rest.pop_front();
-        bool cancelled = false;
-        for (auto it = rest.begin(); it != rest.end() && !cancelled;) {
-            if (it->actionId() != step.actionId() || it->shortcut() != step.shortcut()) {
-                ++it;
-                continue;
-            }
-            cancelled = it->kind() != step.kind();
-            it = rest.erase(it);
-        }
-        if (!cancelled)
-            steps.push_back(step);
-    }
-}
 
 // Steps written as "+X a" (assign X to action a) or "-X a" (take it away). Their descriptions
 // number them, so that lists are told apart even where the same step survives at another place.

@@ -1,3 +1,4 @@
+#include "PlainStore.h"
 #include "TestHost.h"
 #include "Text.h"
 
@@ -6,70 +7,10 @@
 
 #include <QtTest>
 
-#include <map>
 #include <random>
 
 using CUI::ActionIdentifier;
 using CUI::QvelShortcutManager;
-
-namespace {
-
-using PlainMap = std::map<ActionIdentifier, QStringList>;
-
-/// The conflict rule evaluated from scratch: it scans all entries, in the order of the identifiers,
-/// for the holder of a hotkey.
-class PlainStore
-{
-public:
-    explicit PlainStore(const TestRegistry &registry) : m_registry(registry) { }
-
-    void assign(const ActionIdentifier &id, const QString &shortcut)
-    {
-        if (current.count(id) > 0 && current[id].size() >= 6)
-            return;
-        const CUI::VelAction *action = m_registry.getAction(id);
-        if (action == nullptr)
-            return;
-        const ActionIdentifier holder = owner(shortcut, action->contextId());
-        if (!holder.isEmpty() && holder != id)
-            unassign(holder, shortcut);
-        if (!current[id].contains(shortcut, Qt::CaseInsensitive))
-            current[id] << shortcut;
-    }
-
-    void unassign(const ActionIdentifier &id, const QString &shortcut)
-    {
-        if (current.count(id) == 0)
-            return;
-        current[id].removeOne(shortcut);
-        if (current[id].isEmpty())
-            current.erase(id);
-    }
-
-    ActionIdentifier owner(const QString &shortcut, unsigned long context) const
-    {
-        for (const auto &[id, list] : current) {
-            const CUI::VelAction *action = m_registry.getAction(id);
-            if (action != nullptr && action->contextId() == context
-                && list.contains(shortcut, Qt::CaseInsensitive))
-                return id;
-        }
-        return {};
-    }
-
-    PlainMap current;
-    PlainMap base;
-
-private:
-    const TestRegistry &m_registry;
-};
-
-PlainMap plain(const std::unordered_map<ActionIdentifier, CUI::QShortcutsList> &map)
-{
-    return PlainMap(map.begin(), map.end());
-}
-
-} // namespace
 
 class TestShortcutStoreRandom : public QObject
 {

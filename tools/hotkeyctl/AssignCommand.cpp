@@ -3,6 +3,8 @@
 #include "SetEditing.h"
 #include "TextOutput.h"
 
+#include <UiCustomizations/HotkeyEdits.h>
+
 namespace HotkeyCtl {
 
 namespace {
@@ -40,20 +42,15 @@ SetEditing::Report assign(Session &session, const HostCatalogue::Action &action,
     }
 
     const auto holders = otherHolders(session, action, shortcut);
-    session.store().assignShortcut(action.identifier, shortcut, action.name);
+    CUI::HotkeyEdits::give(session.store(), action.identifier, shortcut, action.name);
     if (!session.hotkeys(action.identifier).contains(shortcut)) {
         session.problem(QStringLiteral("%1 cannot be assigned to %2").arg(shortcut, name));
         return {};
     }
     QString report = QStringLiteral("Assigned %1 to %2 in %3.\n")
                              .arg(shortcut, name, printable(session.contextName(action.contextId)));
-    for (const CUI::ActionIdentifier &holder : holders) {
-        // A hotkey in another spelling is found as the conflict it is, but not taken away.
-        const QString left = SetEditing::heldSpelling(session.hotkeys(holder), shortcut);
-        report += left.isNull() ? QStringLiteral("Taken from %1.\n").arg(session.describe(holder))
-                                : QStringLiteral("%1 still holds %2.\n")
-                                          .arg(session.describe(holder), printable(left));
-    }
+    for (const CUI::ActionIdentifier &holder : holders)
+        report += QStringLiteral("Taken from %1.\n").arg(session.describe(holder));
     return report;
 }
 
@@ -72,13 +69,10 @@ Command assignCommand()
     command.summary = QStringLiteral("give a hotkey to an action");
     command.description = QStringLiteral(
             "Gives SHORTCUT to the action ID on top of the set, and tells from which action of\n"
-            "the same context that takes it. With --save the set, with this step at its end, is\n"
-            "written to FILE; the set that was loaded stays as it is unless FILE names it.\n"
-            "Shipped and locked sets are never written to. An action can hold six hotkeys.\n"
-            "\n"
-            "Saving drops repeated steps and pairs of opposite ones. An edit that is undone by "
-            "this\n"
-            "is refused, and what else it changes is told.\n"
+            "the same context that takes it, which is a step of its own. With --save the set,\n"
+            "with these steps at its end, is written to FILE; the set that was loaded stays as it\n"
+            "is unless FILE names it. Shipped and locked sets are never written to. An action can\n"
+            "hold six hotkeys.\n"
             "\n"
             "Example: try first, then save\n"
             "  hotkeyctl assign 1-exportAll Ctrl+E\n"

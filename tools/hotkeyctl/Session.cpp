@@ -6,12 +6,24 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QTextStream>
 
 #include <algorithm>
 
 namespace HotkeyCtl {
+
+namespace {
+
+QStringList hotkeysIn(const std::unordered_map<CUI::ActionIdentifier, CUI::QShortcutsList> &map,
+                      const CUI::ActionIdentifier &identifier)
+{
+    const auto found = map.find(identifier);
+    if (found == map.end())
+        return {};
+    return found->second;
+}
+
+} // namespace
 
 Session::Session(const SessionOptions &options, QTextStream &out, QTextStream &err)
     : m_options(options), m_out(out), m_err(err), m_log(err, options.logLevel)
@@ -81,7 +93,6 @@ bool Session::loadBaseFiles()
     const QString currentSet = paths().getCurrentConfigurationFile(CUI::ConfigType::HotkeySet);
     m_store.loadShortcutConfiguration(QString());
     paths().setCurrentConfigurationFile(CUI::ConfigType::HotkeySet, currentSet);
-    m_base = m_store.getShortcuts();
     if (m_log.errorCount() > errorsBefore) {
         problem(QStringLiteral("a base file cannot be loaded: %1")
                         .arg(m_log.lastError().simplified()));
@@ -113,26 +124,6 @@ bool Session::loadSet(const QString &path)
     return false;
 }
 
-std::optional<Session::Shortcuts> Session::shortcutsOnceSaved()
-{
-    const QTemporaryDir folder;
-    const QString saved = folder.filePath(QStringLiteral("saved.hsx"));
-    const QString currentSet = paths().getCurrentConfigurationFile(CUI::ConfigType::HotkeySet);
-    CUI::QvelShortcutManager store;
-    // Everything else that the log says about these files it has said already.
-    m_log.dropAllButErrors(true);
-    const int errorsBefore = m_log.errorCount();
-    const bool isSaved = folder.isValid() && m_store.saveShortcutTransforms(saved);
-    if (isSaved)
-        store.loadShortcutConfiguration(saved);
-    m_log.dropAllButErrors(false);
-    paths().setCurrentConfigurationFile(CUI::ConfigType::HotkeySet, currentSet);
-    if (isSaved && m_log.errorCount() == errorsBefore)
-        return store.getShortcuts();
-    problem(QStringLiteral("%1: the set cannot be saved for a check").arg(folder.path()));
-    return {};
-}
-
 // The catalogue
 
 const Host::HostCatalogue &Session::catalogue() const
@@ -152,20 +143,12 @@ QString Session::presetDirectory() const
 
 QStringList Session::hotkeys(const CUI::ActionIdentifier &identifier) const
 {
-    return hotkeys(m_store.getShortcuts(), identifier);
-}
-
-QStringList Session::hotkeys(const Shortcuts &shortcuts, const CUI::ActionIdentifier &identifier)
-{
-    const auto found = shortcuts.find(identifier);
-    if (found == shortcuts.end())
-        return {};
-    return found->second;
+    return hotkeysIn(m_store.getShortcuts(), identifier);
 }
 
 QStringList Session::baseHotkeys(const CUI::ActionIdentifier &identifier) const
 {
-    return hotkeys(m_base, identifier);
+    return hotkeysIn(m_store.getBaseShortcuts(), identifier);
 }
 
 const Host::HostCatalogue::Action *Session::findAction(const QString &text) const

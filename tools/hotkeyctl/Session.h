@@ -9,7 +9,6 @@
 
 #include <memory>
 #include <optional>
-#include <unordered_map>
 
 class QTextStream;
 
@@ -36,8 +35,6 @@ struct SessionOptions {
 class Session
 {
 public:
-    using Shortcuts = std::unordered_map<CUI::ActionIdentifier, CUI::QShortcutsList>;
-
     /// How much of the configuration is in the store.
     enum class Loading {
         Failed, ///< nothing that could be shown
@@ -71,11 +68,6 @@ public:
     /// Puts the set @p path on top of the loaded base, in the place of one that is there. False,
     /// after telling why, when it cannot be loaded.
     bool loadSet(const QString &path);
-    /// What is in effect once the set is saved as it is now and loaded again, which need not be
-    /// what is in effect now: saving cancels steps with what they displaced, and those steps have
-    /// cancelled in the store, too, after this. Nothing, after telling why, when it fails.
-    std::optional<Shortcuts> shortcutsOnceSaved();
-
     /// \name After load(), loadBase() or open()
     /// @{
     const Host::HostCatalogue &catalogue() const;
@@ -85,7 +77,6 @@ public:
     CUI::QvelShortcutManager &store() { return m_store; }
     /// The action's hotkeys in effect.
     QStringList hotkeys(const CUI::ActionIdentifier &identifier) const;
-    static QStringList hotkeys(const Shortcuts &shortcuts, const CUI::ActionIdentifier &identifier);
     /// The action's hotkeys before the set was loaded.
     QStringList baseHotkeys(const CUI::ActionIdentifier &identifier) const;
     /// The action that @p text (1-undo) names; null when there is none.
@@ -109,7 +100,6 @@ private:
     LogPrinter m_log;
     std::unique_ptr<Host::SampleHost> m_host;
     CUI::QvelShortcutManager m_store;
-    Shortcuts m_base;
 };
 
 } // namespace HotkeyCtl

@@ -22,45 +22,6 @@ ExitCode checkTarget(const Session &session, const QString &path)
     return session.problem(QStringLiteral("%1: is not written, because %2").arg(path, reason));
 }
 
-bool sameHotkeys(QStringList one, QStringList other)
-{
-    one.sort();
-    other.sort();
-    return one == other;
-}
-
-/// What the saved set makes of the edit: the actions that hold something else once it is loaded
-/// again. Nothing, after telling so, when the action that was edited is one of them.
-Report savedOutcome(Session &session, const Host::HostCatalogue::Action &edited,
-                    const QString &shortcut)
-{
-    const std::optional<Session::Shortcuts> saved = session.shortcutsOnceSaved();
-    if (!saved)
-        return {};
-    QString report;
-    for (const Host::HostCatalogue::Action &action : session.catalogue().actions) {
-        const QStringList now = session.hotkeys(action.identifier);
-        const QStringList later = Session::hotkeys(*saved, action.identifier);
-        const bool isUndone =
-                action.identifier == edited.identifier
-                && heldSpelling(now, shortcut).isNull() != heldSpelling(later, shortcut).isNull();
-        if (sameHotkeys(now, later))
-            continue;
-        const QString holds = QStringLiteral("%1 holds %2")
-                                      .arg(session.describe(action.identifier),
-                                           later.isEmpty() ? QStringLiteral("no hotkey")
-                                                           : later.join(QLatin1String(", ")));
-        if (isUndone) {
-            session.problem(
-                    QStringLiteral("an earlier step undoes this one in the saved set: there %1")
-                            .arg(holds));
-            return {};
-        }
-        report += QStringLiteral("In the saved set %1.\n").arg(printable(holds));
-    }
-    return report;
-}
-
 } // namespace
 
 QCommandLineOption saveOption()
@@ -106,12 +67,9 @@ ExitCode run(const QCommandLineParser &line, Session &session, Accepts accepts, 
     const Report report = edit(session, *action, *shortcut);
     if (!report)
         return ExitCode::Problem;
-    const Report outcome = savedOutcome(session, *action, *shortcut);
-    if (!outcome)
-        return ExitCode::Problem;
     if (target && !session.store().saveShortcutTransforms(*target))
         return session.problem(QStringLiteral("%1: cannot be written").arg(*target));
-    session.out() << *report << *outcome;
+    session.out() << *report;
     if (target)
         session.out() << "Saved as " << printable(*target) << ".\n";
     else

@@ -3,6 +3,8 @@
 #include "SetEditing.h"
 #include "TextOutput.h"
 
+#include <UiCustomizations/HotkeyEdits.h>
+
 namespace HotkeyCtl {
 
 namespace {
@@ -21,7 +23,7 @@ SetEditing::Report unassign(Session &session, const Host::HostCatalogue::Action 
                                                       : before.join(QLatin1String(", "))));
         return {};
     }
-    session.store().unassignShortcut(action.identifier, held, action.name);
+    CUI::HotkeyEdits::take(session.store(), action.identifier, held, action.name);
     return QStringLiteral("Took %1 from %2 in %3.\n")
             .arg(printable(held), name, printable(session.contextName(action.contextId)));
 }
@@ -43,10 +45,6 @@ Command unassignCommand()
             "Takes SHORTCUT from the action ID on top of the set. With --save the set, with this\n"
             "step at its end, is written to FILE; the set that was loaded stays as it is unless\n"
             "FILE names it. Shipped and locked sets are never written to.\n"
-            "\n"
-            "Saving drops repeated steps and pairs of opposite ones. An edit that is undone by "
-            "this\n"
-            "is refused, and what else it changes is told.\n"
             "\n"
             "Example:\n"
             "  hotkeyctl --set mine.hsx unassign 1-undo Ctrl+Z --save mine.hsx\n");
