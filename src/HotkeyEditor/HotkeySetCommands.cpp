@@ -375,6 +375,17 @@ bool HotkeySetCommands::saveChanges(Preset &preset)
     // A locked set stays as it is, and one that has vanished gets the place that the user chooses.
     if (!preset.isValid() || !QFile::exists(path) || isLockedFile(path))
         return saveAsChanges(preset);
+    if (path == QDir::cleanPath(m_manager->transformsFile())
+        && m_manager->hasTransformsFileChanged()) {
+        const QPointer<HotkeySetCommands> self(this);
+        const auto answer = HotkeySetDialogs::popupChangedFileDlg(m_editor, preset.name());
+        if (self.isNull())
+            return false;
+        if (answer == QMessageBox::SaveAll)
+            return saveAsChanges(preset);
+        if (answer != QMessageBox::Save)
+            return false;
+    }
     if (!m_manager->saveShortcutTransforms(path)) {
         HotkeySetDialogs::showSaveFailure(m_editor, path);
         return false;

@@ -143,6 +143,23 @@ void popupFileNotFoundInfoDlg(QWidget *parent, const QString &setName)
     box.tell();
 }
 
+QMessageBox::StandardButton popupChangedFileDlg(QWidget *parent, const QString &setName)
+{
+    PlainMessageBox box(
+            QMessageBox::Warning, QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Hotkey Set Changed"),
+            editorText(QT_TRANSLATE_NOOP(
+                               "QvelShortcutsWidget",
+                               "The file of hotkey set '%1' was changed by another program since "
+                               "it was loaded.\n\nSaving replaces those changes by yours.\n"))
+                    .arg(setName),
+            QMessageBox::Save | QMessageBox::SaveAll | QMessageBox::Cancel, parent);
+    box.relabel(QMessageBox::Save,
+                editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save Anyway")));
+    box.relabel(QMessageBox::SaveAll,
+                editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Save As...")));
+    return box.ask(QMessageBox::Cancel);
+}
+
 bool confirmReplacement(QWidget *parent, const QString &fileName)
 {
     PlainMessageBox box(QMessageBox::Warning,

@@ -18,6 +18,10 @@ QMessageBox::StandardButton popupResetChangesDlg(QWidget *parent);
 QMessageBox::StandardButton popupFileNotFoundSaveDlg(QWidget *parent, const QString &setName);
 void popupFileNotFoundInfoDlg(QWidget *parent, const QString &setName);
 
+/// The file of the set was changed by another program: QMessageBox::Save to replace it,
+/// QMessageBox::SaveAll to save elsewhere.
+QMessageBox::StandardButton popupChangedFileDlg(QWidget *parent, const QString &setName);
+
 /// Yes only when the user wants the file of that name replaced.
 bool confirmReplacement(QWidget *parent, const QString &fileName);
 void showLockedWarning(QWidget *parent);

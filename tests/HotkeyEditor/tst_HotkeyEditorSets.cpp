@@ -28,6 +28,8 @@ private Q_SLOTS:
     void asksBeforeSwitching();
     void staysWithoutSetToSwitchTo();
     void savesInPlace();
+    void asksBeforeItReplacesChangesOfOthers_data();
+    void asksBeforeItReplacesChangesOfOthers();
     void savesLockedSetElsewhere();
     void neverOverwritesLockedSets_data();
     void neverOverwritesLockedSets();
@@ -128,6 +130,37 @@ void TestHotkeyEditorSets::savesInPlace()
     QCOMPARE(modified.count(), 2);
     QVERIFY(!modified.at(1).at(0).toBool() && !m->editor->isModified());
     QCOMPARE(m->chosenSet(), s("Mine"));
+}
+
+void TestHotkeyEditorSets::asksBeforeItReplacesChangesOfOthers_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::newRow("save anyway") << int(QMessageBox::Save);
+    QTest::newRow("save elsewhere") << int(QMessageBox::SaveAll);
+    QTest::newRow("cancel") << int(QMessageBox::Cancel);
+}
+
+void TestHotkeyEditorSets::asksBeforeItReplacesChangesOfOthers()
+{
+    QFETCH(int, answer);
+    m->edit();
+    const QByteArray theirs = TestHost::read(m->userSet) + "<!-- theirs -->";
+    write("user/Mine.hsx", theirs.constData());
+    const QString copy = m->host.paths()->userPresets + s("/Copy.hsx");
+    dialogs->expectBox("Hotkey Set Changed", answer);
+    if (answer == QMessageBox::SaveAll)
+        dialogs->expectFile("Save Hotkey Set As", copy);
+    m->click("HotkeyEditor_toolButtonSavePreset");
+    QVERIFY(dialogs->check());
+    QVERIFY(dialogs->texts().constFirst().contains(s("'Mine'")));
+    QCOMPARE(m->editor->isModified(), answer == QMessageBox::Cancel);
+    QCOMPARE(TestHost::read(m->userSet) == theirs, answer != QMessageBox::Save);
+    QCOMPARE(QFile::exists(copy), answer == QMessageBox::SaveAll);
+    if (answer == QMessageBox::Save) { // the file is known again
+        m->assign(box, "F8");
+        m->click("HotkeyEditor_toolButtonSavePreset");
+        QVERIFY(dialogs->check());
+    }
 }
 
 void TestHotkeyEditorSets::savesLockedSetElsewhere()

@@ -727,5 +727,23 @@ Weitere Einzelheiten finden Sie im Protokoll.</translation>
         <source>The file cannot be opened.</source>
         <translation>Die Datei kann nicht geöffnet werden.</translation>
     </message>
+    <message>
+        <source>Hotkey Set Changed</source>
+        <translation>Tastenkürzelsatz geändert</translation>
+    </message>
+    <message>
+        <source>The file of hotkey set &apos;%1&apos; was changed by another program since it was loaded.
+
+Saving replaces those changes by yours.
+</source>
+        <translation>Die Datei des Tastenkürzelsatzes „%1“ wurde seit dem Laden von einem anderen Programm geändert.
+
+Beim Speichern werden diese Änderungen durch Ihre ersetzt.
+</translation>
+    </message>
+    <message>
+        <source>Save Anyway</source>
+        <translation>Trotzdem speichern</translation>
+    </message>
 </context>
 </TS>

@@ -727,5 +727,23 @@ Consultez le journal pour plus de détails.</translation>
         <source>The file cannot be opened.</source>
         <translation>Impossible d’ouvrir le fichier.</translation>
     </message>
+    <message>
+        <source>Hotkey Set Changed</source>
+        <translation>Jeu de raccourcis modifié</translation>
+    </message>
+    <message>
+        <source>The file of hotkey set &apos;%1&apos; was changed by another program since it was loaded.
+
+Saving replaces those changes by yours.
+</source>
+        <translation>Le fichier du jeu de raccourcis « %1 » a été modifié par un autre programme depuis son chargement.
+
+L’enregistrement remplace ces modifications par les vôtres.
+</translation>
+    </message>
+    <message>
+        <source>Save Anyway</source>
+        <translation>Enregistrer quand même</translation>
+    </message>
 </context>
 </TS>

@@ -727,5 +727,23 @@ See the log for more details.</source>
         <source>The file cannot be opened.</source>
         <translation>ファイルを開けません。</translation>
     </message>
+    <message>
+        <source>Hotkey Set Changed</source>
+        <translation>ホットキーセットが変更されました</translation>
+    </message>
+    <message>
+        <source>The file of hotkey set &apos;%1&apos; was changed by another program since it was loaded.
+
+Saving replaces those changes by yours.
+</source>
+        <translation>ホットキーセット「%1」のファイルは、読み込み後に別のプログラムによって変更されています。
+
+保存すると、それらの変更は現在の変更に置き換えられます。
+</translation>
+    </message>
+    <message>
+        <source>Save Anyway</source>
+        <translation>このまま保存</translation>
+    </message>
 </context>
 </TS>

@@ -727,5 +727,23 @@ See the log for more details.</source>
         <source>The file cannot be opened.</source>
         <translation>파일을 열 수 없습니다.</translation>
     </message>
+    <message>
+        <source>Hotkey Set Changed</source>
+        <translation>단축키 세트 변경됨</translation>
+    </message>
+    <message>
+        <source>The file of hotkey set &apos;%1&apos; was changed by another program since it was loaded.
+
+Saving replaces those changes by yours.
+</source>
+        <translation>단축키 세트 &apos;%1&apos;의 파일이 불러온 이후 다른 프로그램에 의해 변경되었습니다.
+
+저장하면 그 변경 내용이 현재 변경 내용으로 바뀝니다.
+</translation>
+    </message>
+    <message>
+        <source>Save Anyway</source>
+        <translation>그래도 저장</translation>
+    </message>
 </context>
 </TS>

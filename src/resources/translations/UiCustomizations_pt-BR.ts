@@ -727,5 +727,23 @@ Consulte o log para obter mais detalhes.</translation>
         <source>The file cannot be opened.</source>
         <translation>Não é possível abrir o arquivo.</translation>
     </message>
+    <message>
+        <source>Hotkey Set Changed</source>
+        <translation>Conjunto de atalhos alterado</translation>
+    </message>
+    <message>
+        <source>The file of hotkey set &apos;%1&apos; was changed by another program since it was loaded.
+
+Saving replaces those changes by yours.
+</source>
+        <translation>O arquivo do conjunto de atalhos &apos;%1&apos; foi alterado por outro programa desde que foi carregado.
+
+Ao salvar, essas alterações são substituídas pelas suas.
+</translation>
+    </message>
+    <message>
+        <source>Save Anyway</source>
+        <translation>Salvar mesmo assim</translation>
+    </message>
 </context>
 </TS>

@@ -727,5 +727,23 @@ See the log for more details.</source>
         <source>The file cannot be opened.</source>
         <translation>无法打开该文件。</translation>
     </message>
+    <message>
+        <source>Hotkey Set Changed</source>
+        <translation>快捷键集已更改</translation>
+    </message>
+    <message>
+        <source>The file of hotkey set &apos;%1&apos; was changed by another program since it was loaded.
+
+Saving replaces those changes by yours.
+</source>
+        <translation>快捷键集“%1”的文件在加载后已被其他程序更改。
+
+保存会用您的更改替换那些更改。
+</translation>
+    </message>
+    <message>
+        <source>Save Anyway</source>
+        <translation>仍然保存</translation>
+    </message>
 </context>
 </TS>
