@@ -2,7 +2,6 @@
 #include "Text.h"
 
 #include <UiCustomizations/HotkeySetWatcher.h>
-#include <UiCustomizations/QvelMessageLog.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
 #include <QDir>
@@ -11,22 +10,14 @@
 #include <QtTest>
 
 #include <cstdio>
-#include <functional>
 
-using CUI::ActionIdentifier;
 using CUI::HotkeySetWatcher;
 using State = HotkeySetWatcher::State;
 
 namespace {
 
-const ActionIdentifier a{1, QStringLiteral("a")};
-const ActionIdentifier b{1, QStringLiteral("b")};
-
-QByteArray setThatGives(const char *hotkey)
-{
-    return QByteArray("<VelHotkeyTransformations><Assign_Hotkey Shortcut=\"") + hotkey
-           + "\" Id=\"1-a\"/></VelHotkeyTransformations>";
-}
+const CUI::ActionIdentifier a{1, QStringLiteral("a")};
+const CUI::ActionIdentifier b{1, QStringLiteral("b")};
 
 } // namespace
 
@@ -35,7 +26,6 @@ class TestHotkeySetWatcher : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qRegisterMetaType<State>("CUI::HotkeySetWatcher::State"); }
     void init();
     void followsTheFile_data();
     void followsTheFile();
@@ -44,29 +34,40 @@ private Q_SLOTS:
     void ignoresWhatIsNoChange();
 
 private:
-    QString held(const ActionIdentifier &action) const
+    void change(const QByteArray &hotkey);
+    /// What a and b hold.
+    QString held() const
     {
-        return m_store->getShortcutsFromActionId(action);
+        return m_store->getShortcutsFromActionId(a) + m_store->getShortcutsFromActionId(b);
     }
-    QString write(const char *name, const char *hotkey) const
+    void edit() { m_store->assignShortcut(b, s("F5"), QString()); }
+    void undo() { m_store->unassignShortcut(b, s("F5"), QString()); }
+    QString path(const char *name) const { return m_host->path(s(name)); }
+    bool makeFolder(const char *name) const { return QDir(path("")).mkdir(s(name)); }
+    /// Writes a set that gives the hotkey to a.
+    QString write(const QByteArray &name, const char *hotkey) const
     {
-        return m_host->write(s(name), setThatGives(hotkey));
+        return m_host->write(s(name), s("<VelHotkeyTransformations><Assign_Hotkey Shortcut='%1' "
+                                        "Id='1-a'/></VelHotkeyTransformations>")
+                                              .arg(s(hotkey))
+                                              .toUtf8());
     }
     /// Puts a new file in the place of another, in one step.
-    void replace(const char *name, const char *hotkey) const
+    void replace(const char *hotkey) const
     {
-        const QByteArray from = QFile::encodeName(write("new", hotkey));
-        QCOMPARE(std::rename(from.constData(), QFile::encodeName(m_host->path(s(name)))), 0);
+        QCOMPARE(std::rename(QFile::encodeName(write("new", hotkey)).constData(),
+                             QFile::encodeName(path("sets/a.hsx")).constData()),
+                 0);
     }
     void link(const char *target, const char *name) const
     {
-        QFile::remove(m_host->path(s(name)));
-        QVERIFY(QFile::link(m_host->path(s(target)), m_host->path(s(name))));
+        QFile::remove(path(name));
+        QVERIFY(QFile::link(path(target), path(name)));
     }
-    void load(const QString &path)
+    /// The state the watcher gets into.
+    bool comesTo(State state) const
     {
-        m_store->loadShortcutConfiguration(path);
-        QCoreApplication::processEvents();
+        return QTest::qWaitFor([&] { return m_watcher->state() == state; }, 1000);
     }
 
     std::unique_ptr<TestHost> m_host;
@@ -76,82 +77,67 @@ private:
 
 void TestHotkeySetWatcher::init()
 {
-    CUI::QvelMessageLog::getInstance().setMessageLogLevel({});
+    qRegisterMetaType<State>("CUI::HotkeySetWatcher::State");
     m_watcher.reset();
     m_store = std::make_unique<CUI::QvelShortcutManager>();
+    m_watcher = std::make_unique<HotkeySetWatcher>(m_store.get());
     m_host.reset();
     m_host = std::make_unique<TestHost>();
-    for (const ActionIdentifier &action : {a, b})
+    for (const auto &action : {a, b})
         m_host->registry()->addAction(action, action.actionId, 1, QString(), false);
-    m_watcher = std::make_unique<HotkeySetWatcher>(m_store.get());
-    QDir(m_host->path(QString())).mkdir(s("sets"));
+    QVERIFY(makeFolder("sets"));
+    write("sets/a.hsx", "F1");
+    link("sets/a.hsx", "link.hsx");
+    link("sets", "folder");
+    m_store->loadShortcutConfiguration(path("sets/a.hsx"));
 }
-
-using Write = std::function<void(const char *hotkey)>;
-Q_DECLARE_METATYPE(Write)
 
 void TestHotkeySetWatcher::followsTheFile_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<Write>("change");
+    QTest::addColumn<QString>("set");
 
-    const auto row = [](const char *way, const char *name, const Write &change) {
-        QTest::newRow(way) << s(name) << change;
-    };
-    row("in place", "sets/a.hsx", [this](const char *hotkey) { write("sets/a.hsx", hotkey); });
-    row("by rename", "sets/a.hsx", [this](const char *hotkey) { replace("sets/a.hsx", hotkey); });
-    row("by rename while the old one is open", "sets/a.hsx", [this](const char *hotkey) {
-        auto *old = new QFile(m_host->path(s("sets/a.hsx")), m_watcher.get());
-        QVERIFY(old->open(QIODevice::ReadOnly));
-        replace("sets/a.hsx", hotkey);
-    });
-    row("in place behind a link", "link.hsx",
-        [this](const char *hotkey) { write("sets/a.hsx", hotkey); });
-    row("by rename behind a link", "link.hsx",
-        [this](const char *hotkey) { replace("sets/a.hsx", hotkey); });
-    row("by another link", "link.hsx", [this](const char *hotkey) {
-        const QByteArray target = QByteArray("sets/") + hotkey;
-        write(target, hotkey);
-        link(target, "link.hsx");
-    });
-    row("with its folder", "sets/a.hsx", [this](const char *hotkey) {
-        QDir folder(m_host->path(QString()));
-        QVERIFY(folder.rename(s("sets"), s("old") + s(hotkey)) && folder.mkdir(s("sets")));
-        write("sets/a.hsx", hotkey);
-    });
-    row("behind a link to its folder", "folder/a.hsx", [this](const char *hotkey) {
-        const QByteArray folder = QByteArray("sets") + hotkey;
-        QVERIFY(QDir(m_host->path(QString())).mkdir(s(folder)));
-        write(folder + "/a.hsx", hotkey);
-        link(folder, "folder");
-    });
-    row("deleted and back", "sets/a.hsx", [this](const char *hotkey) {
-        QVERIFY(QFile::remove(m_host->path(s("sets/a.hsx"))));
-        QTRY_COMPARE_WITH_TIMEOUT(m_watcher->state(), State::Missing, 1000);
-        write("sets/a.hsx", hotkey);
-    });
-    row("in two halves", "sets/a.hsx", [this](const char *hotkey) {
-        m_host->write(s("sets/a.hsx"), setThatGives(hotkey).left(60));
-        QTRY_COMPARE_WITH_TIMEOUT(m_watcher->state(), State::Unreadable, 1000);
-        write("sets/a.hsx", hotkey);
-    });
+    for (const char *way : {"in place", "by rename", "deleted and back", "in two halves", "folder"})
+        QTest::newRow(way) << s("sets/a.hsx");
+    for (const char *way : {"in place behind a link", "by rename behind a link", "by another link"})
+        QTest::newRow(way) << s("link.hsx");
+    QTest::newRow("folder link") << s("folder/a.hsx");
+}
+
+/// Lets the set give that hotkey to a, in the way that the row says.
+void TestHotkeySetWatcher::change(const QByteArray &hotkey)
+{
+    const QByteArray way = QTest::currentDataTag();
+    if (way.contains("rename"))
+        return replace(hotkey);
+    QByteArray file = "sets/a.hsx";
+    if (way == "deleted and back") {
+        QVERIFY(QFile::remove(path("sets/a.hsx")) && comesTo(State::Missing));
+    } else if (way == "in two halves") {
+        m_host->write(s(file), "<VelHotkeyTransformations><Assign_Hotkey ");
+        QVERIFY(comesTo(State::Unreadable));
+    } else if (way == "folder") {
+        QVERIFY(QDir(path("")).rename(s("sets"), s("old") + s(hotkey)) && makeFolder("sets"));
+    } else if (way == "folder link") {
+        QVERIFY(makeFolder(hotkey));
+        file = hotkey + "/a.hsx";
+    } else if (way == "by another link") {
+        file = hotkey;
+    }
+    write(file, hotkey);
+    if (way == "folder link")
+        link(hotkey, "folder");
+    else if (way == "by another link")
+        link(hotkey, "link.hsx");
 }
 
 void TestHotkeySetWatcher::followsTheFile()
 {
-    QFETCH(QString, name);
-    QFETCH(Write, change);
-    write("sets/a.hsx", "F1");
-    link("sets/a.hsx", "link.hsx");
-    link("sets", "folder");
-    load(m_host->path(name));
-    QCOMPARE(held(a), s("F1"));
+    QFETCH(QString, set);
+    m_store->loadShortcutConfiguration(m_host->path(set));
     const QSignalSpy reloaded(m_watcher.get(), &HotkeySetWatcher::setReloaded);
     for (const char *hotkey : {"F2", "F3"}) {
         change(hotkey);
-        if (QTest::currentTestFailed())
-            return;
-        QTRY_COMPARE_WITH_TIMEOUT(held(a), s(hotkey), 1000);
+        QTRY_COMPARE_WITH_TIMEOUT(held(), s(hotkey), 1000);
         QCOMPARE(m_watcher->state(), State::Unchanged);
     }
     QCOMPARE(reloaded.size(), 2);
@@ -159,69 +145,52 @@ void TestHotkeySetWatcher::followsTheFile()
 
 void TestHotkeySetWatcher::leavesUnsavedEditsAlone()
 {
-    const QString path = write("sets/a.hsx", "F1");
-    load(path);
-    m_store->assignShortcut(b, s("F5"), QString());
-    replace("sets/a.hsx", "F2");
-    QTRY_COMPARE_WITH_TIMEOUT(m_watcher->state(), State::Changed, 1000);
-    QCOMPARE(held(a) + held(b), s("F1F5"));
+    edit();
+    replace("F2");
+    QVERIFY(comesTo(State::Changed));
+    QCOMPARE(held(), s("F1F5"));
     QVERIFY(m_store->hasTransformsFileChanged());
-
     m_watcher->keepMine();
-    QCOMPARE(m_watcher->state(), State::Unchanged);
-    QVERIFY(!m_store->hasTransformsFileChanged());
-    m_store->unassignShortcut(b, s("F5"), QString());
+    QVERIFY(m_watcher->state() == State::Unchanged && !m_store->hasTransformsFileChanged());
+    undo();
     QVERIFY(m_store->isUserModified()); // the file holds something else
-    QTest::qWait(300);
-    QCOMPARE(held(a), s("F1"));
+    m_watcher->check();
+    QCOMPARE(held(), s("F1"));
 
     write("sets/a.hsx", "F3");
-    QTRY_COMPARE_WITH_TIMEOUT(m_watcher->state(), State::Changed, 1000);
-    QVERIFY(m_watcher->loadTheirs());
-    QCOMPARE(held(a), s("F3"));
-    QVERIFY(!m_store->isUserModified());
+    QVERIFY(comesTo(State::Changed) && m_watcher->loadTheirs());
+    QVERIFY(held() == s("F3") && !m_store->isUserModified());
 
-    // Edits that are undone leave nothing to be asked about.
-    m_store->assignShortcut(b, s("F5"), QString());
+    // Edits that are undone leave nothing to ask about.
+    edit();
     write("sets/a.hsx", "F4");
-    QTRY_COMPARE_WITH_TIMEOUT(m_watcher->state(), State::Changed, 1000);
-    m_store->unassignShortcut(b, s("F5"), QString());
-    QTRY_COMPARE_WITH_TIMEOUT(held(a), s("F4"), 1000);
+    QVERIFY(comesTo(State::Changed));
+    undo();
+    QTRY_COMPARE_WITH_TIMEOUT(held(), s("F4"), 1000);
 }
 
 void TestHotkeySetWatcher::mergesWithTheFile()
 {
-    const QString path = write("sets/a.hsx", "F1");
-    load(path);
-    m_store->assignShortcut(b, s("F5"), QString());
-    replace("sets/a.hsx", "F2");
-    m_watcher->check();
-    QCOMPARE(m_watcher->state(), State::Changed);
+    edit();
+    replace("F2");
     const CUI::HotkeySetMerge merge = m_watcher->merge();
     write("sets/a.hsx", "F3");
-    QVERIFY(!m_watcher->applyMerge(merge));
-    QVERIFY(m_watcher->applyMerge(m_watcher->merge()));
-    QCOMPARE(held(a) + held(b), s("F3F5"));
-    QVERIFY(m_store->isUserModified());
+    QVERIFY(!m_watcher->applyMerge(merge) && m_watcher->applyMerge(m_watcher->merge()));
+    QCOMPARE(held(), s("F3F5"));
     QVERIFY(m_store->isUserModifiedAction(b) && !m_store->isUserModifiedAction(a));
-    QVERIFY(m_store->saveShortcutTransforms(path));
-    m_store->loadShortcutConfiguration(path);
-    QCOMPARE(held(a) + held(b), s("F3F5"));
 }
 
 void TestHotkeySetWatcher::ignoresWhatIsNoChange()
 {
-    const QString path = write("sets/a.hsx", "F1");
-    load(path);
     const QSignalSpy reloaded(m_watcher.get(), &HotkeySetWatcher::setReloaded);
     const QSignalSpy states(m_watcher.get(), &HotkeySetWatcher::stateChanged);
-    replace("sets/a.hsx", "F1");
-    m_store->assignShortcut(b, s("F5"), QString());
-    QVERIFY(m_store->saveShortcutTransforms(path));
+    replace("F1");
+    edit();
+    QVERIFY(m_store->saveShortcutTransforms(path("sets/a.hsx")));
     QTest::qWait(300);
-    QVERIFY(m_store->saveShortcutTransforms(m_host->path(s("sets/b.hsx"))));
-    QCOMPARE(m_watcher->path(), m_host->path(s("sets/b.hsx")));
-    write("sets/a.hsx", "F2"); // is no longer the file of the store
+    QVERIFY(m_store->saveShortcutTransforms(path("sets/b.hsx")));
+    QCOMPARE(m_watcher->path(), path("sets/b.hsx"));
+    replace("F2"); // it is no longer the file of the store
     QTest::qWait(300);
     QCOMPARE(reloaded.size() + states.size(), 0);
 }

@@ -15,9 +15,9 @@ const std::vector<Command> &commands()
 {
     static const std::vector<Command> all = {
             listCommand(),   ownerCommand(),    keyboardCommand(), lintCommand(),
-            assignCommand(), unassignCommand(), stepsCommand(),    setsCommand(),
-            useCommand(),    diffCommand(),     showCommand(),     convertCommand(),
-            baseCommand(),   validateCommand(),
+            assignCommand(), unassignCommand(), stepsCommand(),    checkCommand(),
+            setsCommand(),   useCommand(),      diffCommand(),     mergeCommand(),
+            showCommand(),   convertCommand(),  baseCommand(),     validateCommand(),
     };
     return all;
 }

@@ -13,6 +13,7 @@ Command ownerCommand();
 Command assignCommand();
 Command unassignCommand();
 Command stepsCommand();
+Command checkCommand();
 Command baseCommand();
 Command validateCommand();
 Command setsCommand();
@@ -20,6 +21,7 @@ Command useCommand();
 Command diffCommand();
 Command showCommand();
 Command convertCommand();
+Command mergeCommand();
 
 /// All commands, in the order in which the help lists them.
 const std::vector<Command> &commands();

@@ -54,7 +54,7 @@ QByteArray contentsOf(const QString &path)
 
 ExitCode tell(const QString &path, Session &session)
 {
-    const auto steps = readSteps(session, path);
+    const auto steps = readSteps(path);
     if (!steps)
         return session.problem(QStringLiteral("%1: cannot be read again").arg(path));
     const auto removed = std::count_if(

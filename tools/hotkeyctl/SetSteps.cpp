@@ -1,54 +1,46 @@
 #include "SetSteps.h"
 
+#include "FileFault.h"
+#include "SetSearch.h"
 #include "Session.h"
 #include "TextOutput.h"
 
-#include <UiCustomizations/ICuiActionManager.h>
+#include <UiCustomizations/QvelShortcutManager.h>
 
 namespace HotkeyCtl {
 
-namespace {
-
-using CUI::ICuiActionManager;
-
-/// A registry without actions: a store then records every step of a set and applies none, so that
-/// it drops no step for want of room.
-class NoActions : public ICuiActionManager
+std::optional<std::vector<CUI::ShortcutTransformation>> readSteps(const QString &path)
 {
-public:
-    void registerActions() override { }
-    bool triggerAction(const CUI::ActionIdentifier &) override { return false; }
-};
-
-class InstalledNoActions
-{
-public:
-    InstalledNoActions() { install(std::make_unique<NoActions>()); }
-    ~InstalledNoActions() { install(nullptr); }
-    InstalledNoActions(const InstalledNoActions &) = delete;
-    InstalledNoActions &operator=(const InstalledNoActions &) = delete;
-
-private:
-    static void install(std::unique_ptr<ICuiActionManager> registry)
-    {
-        ICuiActionManager::set(registry);
-    }
-};
-
-} // namespace
-
-std::optional<std::vector<CUI::ShortcutTransformation>> readSteps(Session &session,
-                                                                  const QString &path)
-{
-    const InstalledNoActions registry;
-    CUI::QvelShortcutManager store;
-    // It would warn about each action that is not there.
-    session.log().dropAllButErrors(true);
-    const bool isLoaded = store.loadShortcutTransforms(path);
-    session.log().dropAllButErrors(false);
-    if (!isLoaded)
+    std::vector<CUI::ShortcutTransformation> steps;
+    if (!CUI::QvelShortcutManager::readTransforms(path, steps))
         return {};
-    return store.currentTransformations();
+    return steps;
+}
+
+std::optional<std::vector<CUI::ShortcutTransformation>> readNamedSet(const QString &text,
+                                                                     Session &session)
+{
+    const std::optional<QString> path = findSet(session, text);
+    if (!path)
+        return {};
+    const QString fault =
+            faultOf(*path, &CUI::QvelShortcutManager::validateShortcutsTransforms, session);
+    if (!fault.isNull()) {
+        session.problem(QStringLiteral("%1: %2").arg(*path, fault));
+        return {};
+    }
+    const auto steps = readSteps(*path);
+    if (!steps)
+        session.problem(QStringLiteral("%1: the hotkey set cannot be read").arg(*path));
+    return steps;
+}
+
+QString jsonMembers(const CUI::ShortcutTransformation &step)
+{
+    const bool assigns = step.kind() == CUI::ShortcutTransformation::Assign;
+    return QStringLiteral("\"step\": %1, \"hotkey\": %2, \"id\": %3")
+            .arg(assigns ? QStringLiteral("\"assign\"") : QStringLiteral("\"unassign\""),
+                 jsonString(step.shortcut()), jsonString(step.actionId().toString()));
 }
 
 QString stepLine(const CUI::ShortcutTransformation &step, const QString &action)

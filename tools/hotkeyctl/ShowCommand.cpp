@@ -37,13 +37,13 @@ bool convertWithoutDefaults(const QString &path, const QString &out, const QDir 
     return isConverted;
 }
 
-std::optional<Steps> stepsOfLegacyFile(const QString &path, Session &session)
+std::optional<Steps> stepsOfLegacyFile(const QString &path)
 {
     const QTemporaryDir folder;
     const QString set = folder.filePath(QStringLiteral("converted.hsx"));
     if (!folder.isValid() || !convertWithoutDefaults(path, set, QDir(folder.path())))
         return {};
-    return readSteps(session, set);
+    return readSteps(set);
 }
 
 QString title(const QString &path, bool isLegacy)
@@ -70,8 +70,7 @@ ExitCode run(const QCommandLineParser &line, Session &session)
                                   session);
     if (!fault.isNull())
         return session.problem(QStringLiteral("%1: %2").arg(path, fault));
-    const std::optional<Steps> steps =
-            isLegacy ? stepsOfLegacyFile(path, session) : readSteps(session, path);
+    const std::optional<Steps> steps = isLegacy ? stepsOfLegacyFile(path) : readSteps(path);
     if (!steps) {
         return session.problem(QStringLiteral("%1: cannot be read: %2")
                                        .arg(path, session.log().lastError().simplified()));
