@@ -18,6 +18,11 @@ public:
     void apply(const ShortcutTransformation &step);
 
     const ShortcutMap &shortcuts() const { return m_shortcuts; }
+    /// Who holds @p hotkey in that context, as ShortcutOwnerIndex::owner() says.
+    ActionIdentifier owner(const QString &hotkey, unsigned long contextId) const
+    {
+        return m_owners.owner(hotkey, contextId);
+    }
 
 private:
     void assign(const ActionIdentifier &action, const QString &hotkey);

@@ -173,8 +173,9 @@ public:
     /// The recorded steps with the refused ones at their places in the file.
     std::vector<ShortcutTransformation> allTransforms() const;
     /// Whether saveShortcutTransforms() writes allTransforms(), so that nothing of a set is lost
-    /// that was made with other actions or another base. If not, which is the default, it writes
-    /// the recorded steps alone.
+    /// that was made with other actions or another base; a refused step takes effect once the set
+    /// is loaded where its action has room. If not, which is the default, it writes the recorded
+    /// steps alone.
     void setKeepsRefusedTransforms(bool keeps);
     /// What was set; false at first.
     bool keepsRefusedTransforms() const;

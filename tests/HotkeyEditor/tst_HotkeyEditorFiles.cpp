@@ -1,6 +1,9 @@
 #include "EditorHarness.h"
 
+#include <UiCustomizations/HotkeySetWatcher.h>
+
 #include <QPushButton>
+#include <QScrollBar>
 #include <QtTest>
 
 using CUI::QvelShortcutsWidget;
@@ -23,6 +26,7 @@ private Q_SLOTS:
     void reportsFailedImport_data();
     void reportsFailedImport();
     void validatesFiles();
+    void staysInPlaceWhenTheFileChanges();
 
 private:
     QString writeLegacy(const char *name, const char *keys = "") const;
@@ -246,6 +250,26 @@ void TestHotkeyEditorFiles::validatesFiles()
     m->editor->validateShortcutTransformationFile();
     QCOMPARE(dialogs->texts(), list("Xml File valid!! According to schema definition.|"
                                     "Xml File invalid!! According to schema definition."));
+}
+
+void TestHotkeyEditorFiles::staysInPlaceWhenTheFileChanges()
+{
+    for (int i = 0; i < 200; ++i)
+        m->host.registry()->addAction(1, s("a%1").arg(i, 3), s("a%1").arg(i, 3), 2, {}, false);
+    m->model->loadActionsToModel();
+    CUI::HotkeySetWatcher watcher(&m->manager);
+    m->select(bevel);
+    m->press(Qt::Key_F11);
+    QScrollBar *bar = m->tree()->verticalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 60);
+    bar->setValue(60);
+    m->host.write(m->host.paths()->currentSet.mid(m->host.path({}).size()),
+                  "<VelHotkeyTransformations><Assign_Hotkey Shortcut='F8' Id='2-bevel'/>"
+                  "</VelHotkeyTransformations>");
+    QTRY_COMPARE_WITH_TIMEOUT(m->assigned(), s("B, F8"), 1000);
+    QCOMPARE(bar->value(), 60);
+    QCOMPARE(m->tree()->currentIndex().data().toString(), s("Bevel"));
+    QCOMPARE(m->field()->text(), s("F11"));
 }
 
 QTEST_MAIN(TestHotkeyEditorFiles)

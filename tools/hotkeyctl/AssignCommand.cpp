@@ -65,7 +65,7 @@ Command assignCommand()
 {
     Command command;
     command.name = QStringLiteral("assign");
-    command.synopsis = QStringLiteral("ID SHORTCUT [--save FILE]");
+    command.synopsis = QStringLiteral("ID SHORTCUT [--save FILE [--force]]");
     command.summary = QStringLiteral("give a hotkey to an action");
     command.description = QStringLiteral(
             "Gives SHORTCUT to the action ID on top of the set, and tells from which action of\n"
@@ -77,7 +77,7 @@ Command assignCommand()
             "Example: try first, then save\n"
             "  hotkeyctl assign 1-exportAll Ctrl+E\n"
             "  hotkeyctl assign 1-exportAll Ctrl+E --save mine.hsx\n");
-    command.options = {SetEditing::saveOption()};
+    command.options = SetEditing::options();
     command.minimumArguments = 2;
     command.maximumArguments = 2;
     command.run = run;

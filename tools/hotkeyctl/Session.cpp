@@ -28,6 +28,7 @@ QStringList hotkeysIn(const std::unordered_map<CUI::ActionIdentifier, CUI::QShor
 Session::Session(const SessionOptions &options, QTextStream &out, QTextStream &err)
     : m_options(options), m_out(out), m_err(err), m_log(err, options.logLevel)
 {
+    m_store.setKeepsRefusedTransforms(true);
 }
 
 Session::~Session() = default;

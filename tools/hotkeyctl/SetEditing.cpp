@@ -5,6 +5,7 @@
 #include "TextOutput.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QTextStream>
 
 namespace HotkeyCtl::SetEditing {
@@ -12,6 +13,7 @@ namespace HotkeyCtl::SetEditing {
 namespace {
 
 const QString save = QStringLiteral("save");
+const QString force = QStringLiteral("force");
 
 /// What is wrong with the target, told; Done when nothing is.
 ExitCode checkTarget(const Session &session, const QString &path)
@@ -24,10 +26,28 @@ ExitCode checkTarget(const Session &session, const QString &path)
 
 } // namespace
 
-QCommandLineOption saveOption()
+QList<QCommandLineOption> options()
 {
-    return {save, QStringLiteral("Save the resulting set as FILE; a dry run without it."),
-            QStringLiteral("FILE")};
+    return {
+            {save, QStringLiteral("Save the resulting set as FILE; a dry run without it."),
+             QStringLiteral("FILE")},
+            {force,
+             QStringLiteral("Save even if the set has changed in FILE since it was loaded.")},
+    };
+}
+
+ExitCode saveSet(const QCommandLineParser &line, Session &session, const QString &path)
+{
+    const CUI::QvelShortcutManager &store = session.store();
+    if (!line.isSet(force) && QFileInfo(path) == QFileInfo(store.transformsFile())
+        && store.hasTransformsFileChanged()) {
+        return session.problem(QStringLiteral("%1: is not written, because it has changed since it "
+                                              "was loaded; --force replaces it")
+                                       .arg(path));
+    }
+    if (!session.store().saveShortcutTransforms(path))
+        return session.problem(QStringLiteral("%1: cannot be written").arg(path));
+    return ExitCode::Done;
 }
 
 QString heldSpelling(const QStringList &hotkeys, const QString &shortcut)
@@ -67,8 +87,8 @@ ExitCode run(const QCommandLineParser &line, Session &session, Accepts accepts, 
     const Report report = edit(session, *action, *shortcut);
     if (!report)
         return ExitCode::Problem;
-    if (target && !session.store().saveShortcutTransforms(*target))
-        return session.problem(QStringLiteral("%1: cannot be written").arg(*target));
+    if (target && saveSet(line, session, *target) != ExitCode::Done)
+        return ExitCode::Problem;
     session.out() << *report;
     if (target)
         session.out() << "Saved as " << printable(*target) << ".\n";

@@ -25,8 +25,12 @@ enum class Accepts {
 /// Loads everything, makes the edit, saves and reports; the arguments are ID SHORTCUT.
 ExitCode run(const QCommandLineParser &line, Session &session, Accepts accepts, const Edit &edit);
 
-/// The option --save FILE.
-QCommandLineOption saveOption();
+/// The options --save FILE and --force.
+QList<QCommandLineOption> options();
+
+/// Saves the set as --save asks for. Without --force, a set that has changed since it was loaded is
+/// not replaced. Tells what went wrong.
+ExitCode saveSet(const QCommandLineParser &line, Session &session, const QString &path);
 
 /// The hotkey of the list that equals @p shortcut without regard to letter case; null when none.
 QString heldSpelling(const QStringList &hotkeys, const QString &shortcut);

@@ -1,8 +1,8 @@
 #include "SetSteps.h"
 
 #include "FileFault.h"
-#include "SetSearch.h"
 #include "Session.h"
+#include "SetSearch.h"
 #include "TextOutput.h"
 
 #include <UiCustomizations/QvelShortcutManager.h>

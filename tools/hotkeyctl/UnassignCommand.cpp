@@ -39,7 +39,7 @@ Command unassignCommand()
 {
     Command command;
     command.name = QStringLiteral("unassign");
-    command.synopsis = QStringLiteral("ID SHORTCUT [--save FILE]");
+    command.synopsis = QStringLiteral("ID SHORTCUT [--save FILE [--force]]");
     command.summary = QStringLiteral("take a hotkey from an action");
     command.description = QStringLiteral(
             "Takes SHORTCUT from the action ID on top of the set. With --save the set, with this\n"
@@ -48,7 +48,7 @@ Command unassignCommand()
             "\n"
             "Example:\n"
             "  hotkeyctl --set mine.hsx unassign 1-undo Ctrl+Z --save mine.hsx\n");
-    command.options = {SetEditing::saveOption()};
+    command.options = SetEditing::options();
     command.minimumArguments = 2;
     command.maximumArguments = 2;
     command.run = run;
