@@ -58,7 +58,9 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     auto *layout = new QVBoxLayout(this);
-    new SetBars(watcher, layout, this);
+    const auto *bars = new SetBars(manager, watcher, layout, this);
+    connect(bars, &SetBars::stepsReplaced, m_editor,
+            &CUI::QvelShortcutsWidget::resetSelectedActionFields);
     layout->addWidget(m_tabs);
     layout->addWidget(buttons);
     m_editor->setPresetComboBoxItemIcon(Icons::make(QStringLiteral("lock")));

@@ -2,22 +2,32 @@
 
 #include "MergeDialog.h"
 #include "MessageBar.h"
+#include "ReportDialog.h"
 
 #include <UiCustomizations/HotkeySetWatcher.h>
+#include <UiCustomizations/QvelShortcutManager.h>
 
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace Studio {
 
 using CUI::HotkeySetWatcher;
 
-SetBars::SetBars(HotkeySetWatcher &watcher, QVBoxLayout *layout, QWidget *dialog)
-    : QObject(dialog), m_dialog(dialog), m_watcher(watcher), m_changed(new MessageBar(dialog))
+SetBars::SetBars(CUI::QvelShortcutManager &store, HotkeySetWatcher &watcher, QVBoxLayout *layout,
+                 QWidget *dialog)
+    : QObject(dialog),
+      m_dialog(dialog),
+      m_store(store),
+      m_watcher(watcher),
+      m_changed(new MessageBar(dialog)),
+      m_stale(new MessageBar(dialog))
 {
+    layout->addWidget(m_stale);
     layout->addWidget(m_changed);
     m_changed->setObjectName(QStringLiteral("changedSetBar"));
     connect(m_changed->addButton(tr("Keep Mine")), &QPushButton::clicked, &watcher,
@@ -27,6 +37,57 @@ SetBars::SetBars(HotkeySetWatcher &watcher, QVBoxLayout *layout, QWidget *dialog
     connect(m_changed->addButton(tr("Merge...")), &QPushButton::clicked, this, &SetBars::merge);
     connect(&watcher, &HotkeySetWatcher::stateChanged, this, &SetBars::followFile);
     followFile();
+    m_stale->setObjectName(QStringLiteral("staleStepsBar"));
+    connect(m_stale->addButton(tr("Details...")), &QPushButton::clicked, this,
+            &SetBars::showDetails);
+    connect(m_stale->addButton(tr("Dismiss")), &QPushButton::clicked, this, [this] {
+        m_dismissed = m_stale->text();
+        m_stale->hide();
+    });
+    followLoads();
+    followSteps();
+}
+
+// A load adds steps to a store that has no unsaved edit. They are complete when it has returned.
+void SetBars::followLoads()
+{
+    using Store = CUI::QvelShortcutManager;
+    const auto later = [this] {
+        if (!m_store.isUserModified() && !std::exchange(m_isLoaded, true))
+            QTimer::singleShot(0, this, &SetBars::followSteps);
+    };
+    connect(&m_store, &Store::shortcutConfigurationLoaded, this, [this, later] {
+        m_dismissed.clear();
+        later();
+    });
+    connect(&m_store, &Store::shortcutTransformsCleared, this, later);
+    connect(&m_store, &Store::shortcutTransformAdded, this, later);
+}
+
+void SetBars::followSteps()
+{
+    m_isLoaded = false;
+    const CUI::HotkeySetReport report(m_store);
+    const int stale = report.notApplyingCount();
+    const QString text =
+            tr("%1 of %2 changes no longer apply.").arg(stale).arg(report.entries().size());
+    m_stale->setText(stale == 0 || text == m_dismissed ? QString() : text);
+}
+
+void SetBars::showDetails()
+{
+    const QPointer<SetBars> self(this);
+    const QPointer<ReportDialog> dialog = new ReportDialog(CUI::HotkeySetReport(m_store), m_dialog);
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
+    if (self.isNull()) // destroyed with the dialog
+        return;
+    const CUI::HotkeySetReport report = dialog->report();
+    delete dialog.data();
+    if (!isAccepted || !report.hasRemedies())
+        return;
+    m_store.replaceTransforms(report.steps());
+    Q_EMIT stepsReplaced();
+    followSteps();
 }
 
 void SetBars::followFile()
@@ -60,7 +121,9 @@ void SetBars::merge()
         if (!isAccepted)
             return;
     }
-    if (!m_watcher.applyMerge(merge))
+    if (m_watcher.applyMerge(merge))
+        Q_EMIT stepsReplaced();
+    else
         report(tr("The file has been changed again, or cannot be loaded. Your changes are still "
                   "here."));
 }

@@ -26,6 +26,7 @@ bool StudioSession::start()
     m_window = std::make_unique<MainWindow>(m_host, m_store);
     QObject::connect(&log, &CUI::QvelMessageLog::messageLogged, &m_window->console(),
                      &CUI::QvelMessageLogWidget::append);
+    m_store.setKeepsRefusedTransforms(true); // a set of another version loses nothing
     m_store.loadCurrentShortcutConfiguration();
     return true;
 }
