@@ -6,6 +6,7 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QTextStream>
 
 namespace HotkeyCtl::SetEditing {
@@ -39,6 +40,15 @@ QList<QCommandLineOption> options()
 ExitCode saveSet(const QCommandLineParser &line, Session &session, const QString &path)
 {
     const CUI::QvelShortcutManager &store = session.store();
+    // Two programs that both look before either of them saves would not notice each other.
+    const QFileInfo info(path);
+    QLockFile lock(info.absolutePath() + QStringLiteral("/.%1.lock").arg(info.fileName()));
+    constexpr int patience = 10000; // milliseconds
+    if (!lock.tryLock(patience) && lock.error() == QLockFile::LockFailedError) {
+        return session.problem(
+                QStringLiteral("%1: is not written, because another program is writing it")
+                        .arg(path));
+    }
     if (!line.isSet(force) && QFileInfo(path) == QFileInfo(store.transformsFile())
         && store.hasTransformsFileChanged()) {
         return session.problem(QStringLiteral("%1: is not written, because it has changed since it "
