@@ -83,7 +83,9 @@ public:
     /// An index beyond the end changes nothing. A later remedy for a step replaces an earlier one.
     /// The effects stay those of the set as it is: a report on steps() says what remedies achieve.
     /// @{
+    /// Leaves the step in the set as it is.
     void keep(std::size_t entry);
+    /// Leaves the step out.
     void drop(std::size_t entry);
     /// Makes it a step for @p action, which gets the action's display text as its description if
     /// the registry knows one.
