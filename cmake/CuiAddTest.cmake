@@ -16,6 +16,7 @@ function(cui_add_test name)
     set(target "tst_${name}")
     add_executable(${target} ${arg_SOURCES})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    target_precompile_headers(${target} REUSE_FROM testPrecompiled)
     target_compile_definitions(${target} PRIVATE
         CUI_TEST_DATA_DIR="${PROJECT_SOURCE_DIR}/tests/data"
         CUI_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
