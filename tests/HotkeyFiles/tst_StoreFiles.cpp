@@ -3,6 +3,7 @@
 #include "TestHost.h"
 #include "Text.h"
 
+#include <UiCustomizations/HotkeySetReport.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
 #include <QtTest>
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void savesSet();
     void loadsSet();
     void dropsAssignmentsWithoutRoom();
+    void repairsASetOfAnotherBase();
     void failingSaveKeepsTheOldFile_data();
     void failingSaveKeepsTheOldFile();
     void failingSaveKeepsTheEdits();
@@ -239,6 +241,34 @@ void TestStoreFiles::dropsAssignmentsWithoutRoom()
     QVERIFY(m_store->loadShortcutTransforms(writeSet("a.hsx", steps)));
     QCOMPARE(held(a), s("B, C, D, E, F, H"));
     QCOMPARE(m_store->currentTransformations().size(), std::size_t(8)); // without G
+}
+
+void TestStoreFiles::repairsASetOfAnotherBase()
+{
+    QVERIFY(m_store->loadShortcuts(
+            writeBase("a.hsxb", "<Hotkey Shortcut='1, 2, 3, 4, 5, 6' Id='1-a'/>")));
+    const QString set = writeSet("a.hsx", "<Assign_Hotkey Shortcut='7' Id='1-a'/>"
+                                          "<Assign_Hotkey Shortcut='X' Id='1-aa'/>"
+                                          "<Unassign_Hotkey Shortcut='1' Id='1-a'/>");
+    const auto steps = [](const QString &path) { return TestHost::read(path).count("Shortcut="); };
+    QVERIFY(m_store->loadShortcutTransforms(set));
+    QVERIFY(m_store->saveShortcutTransforms(m_host->path(s("without.hsx"))));
+    QCOMPARE(steps(m_host->path(s("without.hsx"))), 2);
+    m_store->setKeepsRefusedTransforms(true);
+    QVERIFY(m_store->saveShortcutTransforms(set) && m_store->loadShortcutTransforms(set));
+    QCOMPARE(steps(set), 3);
+
+    CUI::HotkeySetReport report(*m_store);
+    QCOMPARE(report.notApplyingCount(), 2);
+    QCOMPARE(report.entries().at(1).other, a);
+    report.drop(0);
+    report.remap(1, c);
+    m_store->replaceTransforms(report.steps());
+    QVERIFY(m_store->isUserModified() && m_store->refusedTransforms().empty());
+    QCOMPARE(held(a) + held(c), s("2, 3, 4, 5, 6X"));
+    QVERIFY(m_store->saveShortcutTransforms(set) && m_store->loadShortcutTransforms(set));
+    QCOMPARE(held(a) + held(c), s("2, 3, 4, 5, 6X"));
+    QCOMPARE(CUI::HotkeySetReport(*m_store).notApplyingCount(), 0);
 }
 
 void TestStoreFiles::failingSaveKeepsTheOldFile_data()
