@@ -21,6 +21,11 @@ bool isSame(const Step &a, const Step &b)
     return a.kind() == b.kind() && concernsSame(a, b);
 }
 
+bool isIdentical(const Step &a, const Step &b)
+{
+    return isSame(a, b) && a.description() == b.description();
+}
+
 struct HashOfSubject {
     std::size_t operator()(const Step *step) const
     {
@@ -177,6 +182,17 @@ void RecordedSteps::markSaved()
     forget();
 }
 
+void RecordedSteps::rememberSaved()
+{
+    m_savedAs = std::make_shared<const std::optional<Steps>>(m_steps);
+}
+
+void RecordedSteps::markFileChanged()
+{
+    m_savedAs = std::make_shared<const std::optional<Steps>>();
+    m_lacksSavedSteps = true;
+}
+
 // The steps have been cancelled across the boundary between saved and unsaved. If all of them were
 // still taken for saved ones, unsaved edits would pass for saved ones. Saved steps that were
 // cancelled with unsaved ones are still in the file.
@@ -195,12 +211,86 @@ void RecordedSteps::reclaimUnsaved(const Steps &savedSteps, bool isModified)
 
 void RecordedSteps::reclaimSaved(RecordedSteps before)
 {
+    m_savedAs = before.m_savedAs;
     reclaimUnsaved(before.savedSteps(), true);
     const Steps refusedBefore = before.refusedSteps();
     const Steps refused = refusedSteps();
     m_lacksSavedSteps |= before.m_lacksSavedSteps
                          || !std::equal(refusedBefore.begin(), refusedBefore.end(), refused.begin(),
                                         refused.end(), isSame);
+}
+
+RecordedSteps::Difference RecordedSteps::differenceOf(const RecordedSteps &before,
+                                                      const RecordedSteps &after)
+{
+    Difference difference;
+    const Steps &a = before.m_steps;
+    const Steps &b = after.m_steps;
+    const auto first = std::mismatch(a.begin(), a.end(), b.begin(), b.end(), isIdentical);
+    const auto last =
+            std::mismatch(a.rbegin(), Steps::const_reverse_iterator(first.first), b.rbegin(),
+                          Steps::const_reverse_iterator(first.second), isIdentical);
+    difference.place = static_cast<std::size_t>(first.first - a.begin());
+    difference.before = Steps(first.first, last.first.base());
+    difference.after = Steps(first.second, last.second.base());
+    const auto withoutSteps = [](const RecordedSteps &state) {
+        RecordedSteps rest;
+        rest.m_savedCount = state.m_savedCount;
+        rest.m_lacksSavedSteps = state.m_lacksSavedSteps;
+        rest.m_refused = state.m_refused;
+        rest.m_savedAs = state.m_savedAs;
+        return rest;
+    };
+    difference.stateBefore = withoutSteps(before);
+    difference.stateAfter = withoutSteps(after);
+    return difference;
+}
+
+bool RecordedSteps::Difference::isAny() const
+{
+    return !before.empty() || !after.empty() || stateBefore.m_savedCount != stateAfter.m_savedCount
+           || stateBefore.m_lacksSavedSteps != stateAfter.m_lacksSavedSteps
+           || stateBefore.m_savedAs != stateAfter.m_savedAs;
+}
+
+bool RecordedSteps::apply(const Difference &difference, bool forward)
+{
+    const Steps &old = forward ? difference.before : difference.after;
+    const Steps &restored = forward ? difference.after : difference.before;
+    const std::size_t place = std::min(difference.place, m_steps.size());
+    const std::size_t end = std::min(place + old.size(), m_steps.size());
+    Steps steps = std::move(m_steps);
+    const auto gap = steps.erase(steps.begin() + static_cast<std::ptrdiff_t>(place),
+                                 steps.begin() + static_cast<std::ptrdiff_t>(end));
+    steps.insert(gap, restored.begin(), restored.end());
+
+    const auto savedAs = m_savedAs;
+    *this = forward ? difference.stateAfter : difference.stateBefore;
+    m_steps = std::move(steps);
+    if (savedAs == nullptr || savedAs == m_savedAs)
+        return true;
+    m_savedAs = savedAs;
+    compareWithSaved();
+    return false;
+}
+
+void RecordedSteps::compareWithSaved()
+{
+    m_savedCount = 0;
+    m_lacksSavedSteps = true;
+    if (!*m_savedAs)
+        return;
+    const Steps &saved = **m_savedAs;
+    Steps cancelled = m_steps; // as saving does
+    cancel(cancelled, 0);
+    if (std::equal(cancelled.begin(), cancelled.end(), saved.begin(), saved.end(), isSame)) {
+        markSaved();
+        return;
+    }
+    const auto common =
+            std::mismatch(saved.begin(), saved.end(), m_steps.begin(), m_steps.end(), isSame);
+    m_savedCount = static_cast<std::size_t>(common.second - m_steps.begin());
+    m_lacksSavedSteps = common.first != saved.end();
 }
 
 void RecordedSteps::clear()

@@ -4,6 +4,7 @@
 #include "ShortcutTransformation.h"
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <unordered_set>
 #include <vector>
@@ -55,8 +56,10 @@ public:
     void cancelFrom(std::size_t start);
     /// All steps are saved.
     void markSaved();
+    /// The steps are what the file holds from now on, also for states that are restored later.
+    void rememberSaved();
     /// The file holds something else than the saved steps.
-    void markFileChanged() { m_lacksSavedSteps = true; }
+    void markFileChanged();
     /// After a save that failed and for which all steps were cancelled: only those that
     /// @p savedSteps begins with still count as saved. @p isModified is the state before the save.
     void reclaimUnsaved(const Steps &savedSteps, bool isModified);
@@ -72,6 +75,13 @@ public:
     /// The recorded steps with the refused ones at their places.
     Steps withRefusedSteps() const;
 
+    /// What leads from one state of the steps to another and back.
+    struct Difference;
+    static Difference differenceOf(const RecordedSteps &before, const RecordedSteps &after);
+    /// Restores the later state of a difference, or the earlier one. If steps were saved meanwhile,
+    /// the restored ones are compared with them instead, and the result is false.
+    bool apply(const Difference &difference, bool forward);
+
 private:
     struct Refused {
         ShortcutTransformation step;
@@ -82,16 +92,30 @@ private:
     void cancelLast();
     void removeAt(std::size_t index);
     void forget();
+    void compareWithSaved();
 
     Steps m_steps;
     std::size_t m_savedCount = 0;
     bool m_lacksSavedSteps = false;
     std::vector<Refused> m_refused; // in the order of their places
+    /// What was saved last; null before the first save since a load. Nothing if the file holds
+    /// something that is not known.
+    std::shared_ptr<const std::optional<Steps>> m_savedAs;
     /// How many of the first steps are cancelled already, as far as they are unsaved.
     std::size_t m_cancelledCount = 0;
     /// The actions of the unsaved steps, once they were asked for. Filtering 10,000 actions by
     /// 1,000 steps takes 51 ms without it.
     std::optional<std::unordered_set<ActionIdentifier>> m_touchedActions;
+};
+
+struct RecordedSteps::Difference {
+    bool isAny() const;
+
+    std::size_t place = 0; ///< where the steps begin to differ
+    Steps before;
+    Steps after;
+    RecordedSteps stateBefore; ///< all but the steps
+    RecordedSteps stateAfter;
 };
 
 } // namespace CUI

@@ -1,6 +1,7 @@
 #include "HotkeyEdits.h"
 
 #include "CaseInsensitiveKey.h"
+#include "HotkeyEditGroup.h"
 #include "HotkeyReplay.h"
 #include "ICuiActionManager.h"
 #include "QvelMessageLog.h"
@@ -116,6 +117,7 @@ void HotkeyEdits::give(QvelShortcutManager &store, const ActionIdentifier &actio
         return;
     // Copies, as the caller's may lie in the map that is about to change.
     const Step step(Step::Assign, action, hotkey, description);
+    const HotkeyEditGroup group(&store);
     const std::size_t count = store.currentTransformations().size();
     const std::size_t taken = takeFromHolders(store, step.actionId(), step.shortcut());
     store.assignShortcut(step.actionId(), step.shortcut(), step.description());
@@ -127,6 +129,7 @@ void HotkeyEdits::take(QvelShortcutManager &store, const ActionIdentifier &actio
 {
     if (hotkey.isEmpty())
         return;
+    const HotkeyEditGroup group(&store);
     const QString text = hotkey; // the caller's may lie in the map that is about to change
     const std::size_t count = store.currentTransformations().size();
     store.unassignShortcut(action, text, description);

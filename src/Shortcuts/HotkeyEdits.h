@@ -19,7 +19,7 @@ class QvelShortcutManager;
 /// To this end a hotkey that is taken from another action is recorded as a step of its own. Where
 /// cancelling would change the result nevertheless (because of steps in a loaded set, or of actions
 /// that hold six hotkeys), the steps that restore it are recorded as well.
-class CUI_EXPORT HotkeyEdits
+class CUI_CORE_EXPORT HotkeyEdits
 {
 public:
     HotkeyEdits() = delete;

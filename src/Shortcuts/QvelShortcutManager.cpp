@@ -1,5 +1,6 @@
 #include "QvelShortcutManager.h"
 
+#include "HotkeyChangeRecord.h"
 #include "ICuiActionManager.h"
 #include "KeyNames.h"
 #include "KnownFile.h"
@@ -38,7 +39,8 @@ QvelShortcutManager::QvelShortcutManager(QObject *parent)
       baseShortcuts(initialBuckets),
       transformations(std::make_unique<RecordedSteps>()),
       setFile(std::make_unique<KnownFile>()),
-      ownerIndex(std::make_unique<ShortcutOwnerIndex>())
+      ownerIndex(std::make_unique<ShortcutOwnerIndex>()),
+      change(std::make_unique<ChangeRecord>())
 {
 }
 
@@ -108,7 +110,9 @@ void QvelShortcutManager::assignShortcut(const ActionIdentifier &identifier,
         return;
     const ShortcutTransformation step(ShortcutTransformation::Assign, identifier, shortcut,
                                       description);
+    const ChangeScope scope(this, HotkeyChange::Kind::Edit);
     transformations->append(step);
+    noteStep(step);
     // The step's copies: the caller's may lie inside the very map entry that is about to change.
     assignShortcutInternal(step.actionId(), step.shortcut(), true, false);
     checkModifiedAndEmit();
@@ -122,7 +126,9 @@ void QvelShortcutManager::unassignShortcut(const ActionIdentifier &identifier,
         return;
     const ShortcutTransformation step(ShortcutTransformation::Unassign, identifier, shortcut,
                                       description);
+    const ChangeScope scope(this, HotkeyChange::Kind::Edit);
     transformations->append(step);
+    noteStep(step);
     // The step's copies: the caller's may lie inside the very map entry that is about to change.
     unassignShortcutInternal(step.actionId(), step.shortcut(), true);
     checkModifiedAndEmit();
@@ -156,6 +162,7 @@ bool QvelShortcutManager::assignShortcutInternal(const ActionIdentifier &identif
         unassignShortcutInternal(holder, shortcut, userModification);
     }
 
+    rememberHotkeys(identifier);
     if (!userModification)
         baseShortcuts[identifier].addShortcut(shortcut);
     if (currentShortcuts[identifier].addShortcut(shortcut))
@@ -179,6 +186,7 @@ void QvelShortcutManager::unassignShortcutInternal(const ActionIdentifier &ident
             removedFromBase = true;
         }
     }
+    rememberHotkeys(identifier);
     const auto current = currentShortcuts.find(identifier);
     if (current != currentShortcuts.end()) {
         if (removeFromEntry(currentShortcuts, current, shortcut))
@@ -195,6 +203,7 @@ void QvelShortcutManager::unassignShortcutInternal(const ActionIdentifier &ident
 
 void QvelShortcutManager::applyTransforms()
 {
+    const ChangeScope scope(this, HotkeyChange::Kind::Reset);
     baseShortcuts = currentShortcuts;
     transformations->forgetRefused();
     if (!transformations->steps().empty())
@@ -204,14 +213,18 @@ void QvelShortcutManager::applyTransforms()
 void QvelShortcutManager::replaceTransforms(const std::vector<ShortcutTransformation> &callersSteps)
 {
     const RecordedSteps::Steps steps = callersSteps; // the caller's may be the recorded ones
+    const ChangeScope scope(this, HotkeyChange::Kind::Edit);
+    rememberAllHotkeys();
     const RecordedSteps before = *transformations;
     currentShortcuts = baseShortcuts;
     ownerIndex->rebuild(currentShortcuts);
     transformations->clear();
     Q_EMIT shortcutTransformsCleared();
     for (const ShortcutTransformation &step : steps) {
-        if (recordStep(step))
-            applyStep(step);
+        if (!recordStep(step))
+            continue;
+        noteStep(step);
+        applyStep(step);
     }
     transformations->reclaimSaved(before);
     checkModifiedAndEmit();
@@ -223,6 +236,7 @@ void QvelShortcutManager::clearTransforms()
         transformations->forgetRefused();
         return;
     }
+    const ChangeScope scope(this, HotkeyChange::Kind::Reset);
     currentShortcuts = baseShortcuts;
     ownerIndex->rebuild(currentShortcuts);
     dropTransforms();
@@ -237,6 +251,7 @@ void QvelShortcutManager::dropTransforms()
 
 void QvelShortcutManager::collapseTransforms(std::size_t start)
 {
+    const ChangeScope scope(this, HotkeyChange::Kind::Upkeep);
     transformations->cancelFrom(start);
     Q_EMIT shortcutTransformsCollapsed();
 }
@@ -245,6 +260,7 @@ void QvelShortcutManager::clearShortcuts()
 {
     if (currentShortcuts.empty() && baseShortcuts.empty())
         return;
+    const ChangeScope scope(this, HotkeyChange::Kind::Reset);
     currentShortcuts = ShortcutMap(initialBuckets);
     baseShortcuts = ShortcutMap(initialBuckets);
     ownerIndex->clear();
@@ -257,6 +273,7 @@ void QvelShortcutManager::clearShortcuts()
 
 void QvelShortcutManager::restate(const ShortcutTransformation &step)
 {
+    const ChangeScope scope(this, HotkeyChange::Kind::Edit);
     transformations->restate(step);
     checkModifiedAndEmit();
     Q_EMIT shortcutTransformAdded(step);
@@ -274,13 +291,21 @@ void QvelShortcutManager::checkModifiedAndEmit()
         transformations->cancelUnsaved();
         Q_EMIT shortcutTransformsCollapsed();
     }
-    if (transformations->isModified() && !modified) {
-        modified = true;
+    if (transformations->isModified())
+        announceModified(true);
+    else if (transformations->isUnmodified())
+        announceModified(false);
+}
+
+void QvelShortcutManager::announceModified(bool isModified)
+{
+    if (modified == isModified)
+        return;
+    modified = isModified;
+    if (modified)
         Q_EMIT shortcutsModified();
-    } else if (transformations->isUnmodified() && modified) {
-        modified = false;
+    else
         Q_EMIT shortcutsUnModified();
-    }
 }
 
 // Key names

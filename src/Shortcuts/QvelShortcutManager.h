@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ActionIdentifier.h"
+#include "HotkeyChange.h"
 #include "QShortcutsList.h"
 #include "ShortcutTransformation.h"
 #include "UiCustomizationsExport.h"
@@ -111,6 +112,17 @@ public:
     /// loadShortcutTransforms(), then shortcutTransformsCollapsed() if there are unsaved steps, and
     /// a change of the modified state.
     void replaceTransforms(const std::vector<ShortcutTransformation> &steps);
+
+    /// Returns to what was before @p change: the hotkeys of the actions with the order of each
+    /// list, the recorded steps and the modified state. A save since then stays in force: the store
+    /// is unmodified exactly where its steps are those that were saved last. The store must be as
+    /// @p change has left it. Does nothing for a Reset.
+    ///
+    /// Emits a change of the modified state, shortcutTransformsCleared(), and
+    /// shortcutTransformsCollapsed() if there are steps.
+    void undoChange(const HotkeyChange &change);
+    /// Does @p change again after undoChange(). Emits the same signals.
+    void redoChange(const HotkeyChange &change);
 
     /// Empties the store. Emits shortcutsUnModified() if there were unsaved edits, then
     /// shortcutsCleared(). When no action has a hotkey, it does nothing at all.
@@ -273,6 +285,10 @@ Q_SIGNALS:
     /// The recorded steps have been saved to the file @p path: the last signal of
     /// saveShortcutTransforms().
     void shortcutTransformsSaved(const QString &path);
+    /// A call of this class, or a HotkeyEditGroup, has ended that changed or recorded something;
+    /// emitted after all its other signals. Not emitted by undoChange() and redoChange(). What
+    /// slots edit meanwhile belongs to the same change.
+    void hotkeysChanged(const CUI::HotkeyChange &change);
     /// The first unsaved edit was made. Never emitted twice in a row.
     void shortcutsModified();
     /// No unsaved edit is left. Never emitted twice in a row.
@@ -283,7 +299,10 @@ Q_SIGNALS:
     void shortcutConfigurationLoaded(const QString &path);
 
 private:
+    friend class HotkeyEditGroup;
     friend class HotkeyEdits;
+    struct ChangeRecord;
+    class ChangeScope;
     using ShortcutMap = std::unordered_map<ActionIdentifier, QShortcutsList>;
     enum class Loaded { Nothing, Part, Everything };
 
@@ -295,12 +314,22 @@ private:
     void restate(const ShortcutTransformation &step);
     void markStepsSaved();
     void checkModifiedAndEmit();
+    void announceModified(bool isModified);
     void dropTransforms();
     Loaded loadTransforms(const QString &path);
     bool recordStep(const ShortcutTransformation &step);
     void applyStep(const ShortcutTransformation &step);
     void loadBaseFiles();
     void assignDefaultAccelerators();
+
+    void beginGroup(const QString &text);
+    void beginChange(HotkeyChange::Kind kind);
+    void endChange();
+    void noteStep(const ShortcutTransformation &step);
+    void rememberHotkeys(const ActionIdentifier &identifier);
+    void rememberAllHotkeys();
+    void restore(const HotkeyChange &change, bool forward);
+    void setHotkeys(const ActionIdentifier &identifier, const QShortcutsList &hotkeys);
 
     bool modified = false;
     ShortcutMap currentShortcuts;
@@ -309,6 +338,7 @@ private:
     std::unique_ptr<RecordedSteps> transformations;
     std::unique_ptr<KnownFile> setFile;
     std::unique_ptr<ShortcutOwnerIndex> ownerIndex;
+    std::unique_ptr<ChangeRecord> change;
 };
 
 } // namespace CUI

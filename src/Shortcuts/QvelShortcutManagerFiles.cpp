@@ -2,6 +2,7 @@
 
 #include "BaseHotkeyFile.h"
 #include "FileValidation.h"
+#include "HotkeyChangeRecord.h"
 #include "HotkeySetFile.h"
 #include "ICuiActionManager.h"
 #include "IPathManager.h"
@@ -146,6 +147,7 @@ bool QvelShortcutManager::loadShortcuts(const QString &callersPath)
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return false;
 
+    const ChangeScope scope(this, HotkeyChange::Kind::Reset);
     clearShortcuts();
     const BaseHotkeyFile::Content content = BaseHotkeyFile::read(file);
     for (const BaseHotkeyFile::Entry &entry : content.entries) {
@@ -170,6 +172,7 @@ bool QvelShortcutManager::saveShortcutTransforms(const QString &callersPath)
     if (callersPath.isEmpty())
         return false;
     const QString path = callersPath; // slots may change the caller's
+    const ChangeScope scope(this, HotkeyChange::Kind::Upkeep);
     const RecordedSteps::Steps savedSteps = transformations->savedSteps();
     collapseTransforms(0);
     const auto contents = writeSteps(path, keepsRefused ? transformations->withRefusedSteps()
@@ -179,6 +182,7 @@ bool QvelShortcutManager::saveShortcutTransforms(const QString &callersPath)
         return false;
     }
     *setFile = KnownFile(path, *contents);
+    transformations->rememberSaved();
     markStepsSaved();
     if (!validateShortcutsTransforms(path))
         qDebug("Generated transformation file doesn't conform to the schema defined in "
@@ -209,6 +213,7 @@ QvelShortcutManager::Loaded QvelShortcutManager::loadTransforms(const QString &p
     QFile file(path);
     if (!openSet(file))
         return Loaded::Nothing;
+    const ChangeScope scope(this, HotkeyChange::Kind::Reset);
     clearTransforms();
     const HotkeySetFile::Content content = HotkeySetFile::read(file);
     for (const ShortcutTransformation &step : content.steps) {
@@ -277,6 +282,7 @@ bool QvelShortcutManager::hasTransformsFileChanged() const
 
 void QvelShortcutManager::keepOverTransformsFile()
 {
+    const ChangeScope scope(this, HotkeyChange::Kind::Upkeep);
     *setFile = KnownFile(setFile->path());
     transformations->markFileChanged();
     checkModifiedAndEmit();
@@ -317,6 +323,7 @@ bool QvelShortcutManager::convertLegacyShortcuts(const QString &in, const QStrin
 void QvelShortcutManager::loadShortcutConfiguration(const QString &callersPath)
 {
     const QString path = callersPath; // slots and the path manager may change the caller's
+    const ChangeScope scope(this, HotkeyChange::Kind::Reset);
     Q_EMIT shortcutConfigurationAboutToLoad(path);
     clearShortcuts();
     loadBaseFiles();

@@ -1,0 +1,259 @@
+#include "PlainStore.h"
+#include "Recorder.h"
+#include "Text.h"
+
+#include <UiCustomizations/HotkeyEditGroup.h>
+#include <UiCustomizations/HotkeyEdits.h>
+#include <UiCustomizations/QvelHotkeyHistory.h>
+#include <UiCustomizations/QvelMessageLog.h>
+#include <UiCustomizations/QvelShortcutManager.h>
+
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <random>
+
+using CUI::ActionIdentifier;
+using CUI::HotkeyEdits;
+using CUI::QvelHotkeyHistory;
+using CUI::QvelShortcutManager;
+
+namespace {
+
+const QStringList keys = list("A|a|B|C|D|E|F|G");
+
+/// All that a store answers.
+struct Snapshot {
+    PlainMap current;
+    PlainMap base;
+    std::vector<CUI::ShortcutTransformation> steps;
+    bool isModified = false;
+    QStringList answers;
+    int saves = 0;
+};
+
+QStringList texts(const std::vector<CUI::ShortcutTransformation> &steps)
+{
+    QStringList result;
+    for (const auto &step : steps)
+        result << step.toString() + step.actionId().toString();
+    return result;
+}
+
+} // namespace
+
+class TestHotkeyHistory : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void namesAndAnnounces();
+    void equalsSnapshots();
+    void outlivesSlotsThatEdit();
+
+private:
+    unsigned below(unsigned limit) { return unsigned(m_random()) % limit; }
+    const ActionIdentifier &anyAction() { return m_ids[below(unsigned(m_ids.size()))]; }
+    QString anyKey() { return keys.at(int(below(unsigned(keys.size())))); }
+    void edit(QvelShortcutManager &store);
+    Snapshot snapshot(QvelShortcutManager &store) const;
+    void compare(QvelShortcutManager &store, const Snapshot &expected) const;
+
+    std::mt19937 m_random{9};
+    std::vector<ActionIdentifier> m_ids;
+    std::unique_ptr<TestHost> m_host;
+    int m_saves = 0;
+    std::vector<CUI::ShortcutTransformation> m_saved;
+};
+
+void TestHotkeyHistory::init()
+{
+    CUI::QvelMessageLog::getInstance().setMessageLogLevel({});
+    m_host.reset();
+    m_host = std::make_unique<TestHost>();
+    m_ids.clear();
+    for (unsigned i = 0; i < 6; ++i) {
+        m_ids.push_back({1, s("action%1").arg(i)});
+        m_host->registry()->addAction(m_ids.back(), s("Action %1").arg(i), i % 2, QString(), false);
+    }
+}
+
+void TestHotkeyHistory::namesAndAnnounces()
+{
+    QvelShortcutManager store;
+    store.assignShortcut(m_ids[0], s("A"), s("Base"));
+    store.applyTransforms();
+    QvelHotkeyHistory history(&store);
+    HotkeyEdits::give(store, m_ids[2], s("A"), s("Two"));
+    QCOMPARE(history.count(), 1);
+    QCOMPARE(history.undoText(), s("Add 'A' to Two."));
+    {
+        const CUI::HotkeyEditGroup group(&store, s("Both"));
+        store.assignShortcut(m_ids[2], s("B"), s("Two"));
+        store.assignShortcut(m_ids[2], s("C"), s("Two"));
+    }
+    QCOMPARE(history.undoText(), s("Both"));
+    Recorder recorder(store);
+    history.undo();
+    QCOMPARE(recorder.takeSignals(), list("transformsCleared|collapsed"));
+    history.undo();
+    QCOMPARE(recorder.takeSignals(), list("unmodified|transformsCleared"));
+    QCOMPARE(store.getShortcutsFromActionId(m_ids[0]), s("A"));
+    history.redo();
+    QCOMPARE(recorder.takeSignals(), list("modified|transformsCleared|collapsed"));
+    QCOMPARE(store.getActionIdFromShortcut(s("A"), 0), m_ids[2]);
+    store.clearTransforms();
+    QCOMPARE(history.count(), 0);
+}
+
+void TestHotkeyHistory::edit(QvelShortcutManager &store)
+{
+    const ActionIdentifier &action = anyAction();
+    const QString name = QString::number(below(1000));
+    switch (below(8)) {
+    case 0:
+        store.assignShortcut(action, anyKey(), name);
+        break;
+    case 1:
+        store.unassignShortcut(action, anyKey(), name);
+        break;
+    case 2: {
+        const CUI::HotkeyEditGroup group(&store);
+        for (int i = 0; i < 3; ++i)
+            edit(store);
+        break;
+    }
+    case 3:
+        if (below(4) == 0) {
+            auto steps = store.currentTransformations();
+            std::reverse(steps.begin(), steps.end());
+            store.replaceTransforms(steps);
+            break;
+        }
+        Q_FALLTHROUGH();
+    case 4:
+        HotkeyEdits::take(store, action, anyKey(), name);
+        break;
+    default:
+        HotkeyEdits::give(store, action, anyKey(), name);
+    }
+}
+
+Snapshot TestHotkeyHistory::snapshot(QvelShortcutManager &store) const
+{
+    Snapshot now{plain(store.getShortcuts()),
+                 plain(store.getBaseShortcuts()),
+                 store.currentTransformations(),
+                 store.isUserModified(),
+                 {},
+                 m_saves};
+    for (const ActionIdentifier &id : m_ids) {
+        now.answers << QString::number(store.isUserModifiedAction(id));
+        for (const QString &key : keys) {
+            now.answers << QString::number(store.isUserModifiedShortcut(id, key))
+                        << store.getActionIdFromShortcut(key, id.tableId).toString();
+        }
+    }
+    return now;
+}
+
+void TestHotkeyHistory::compare(QvelShortcutManager &store, const Snapshot &expected) const
+{
+    const Snapshot now = snapshot(store);
+    QCOMPARE(now.current, expected.current);
+    QCOMPARE(now.base, expected.base);
+    QCOMPARE(texts(now.steps), texts(expected.steps));
+    if (expected.saves == m_saves) {
+        QCOMPARE(now.isModified, expected.isModified);
+        QCOMPARE(now.answers, expected.answers);
+        return;
+    }
+    auto cancelled = now.steps;
+    collapsePlainly(cancelled, 0);
+    const bool isSaved = std::equal(cancelled.begin(), cancelled.end(), m_saved.begin(),
+                                    m_saved.end(), [](const auto &a, const auto &b) {
+                                        return a.kind() == b.kind() && a.actionId() == b.actionId()
+                                               && a.shortcut() == b.shortcut();
+                                    });
+    QCOMPARE(now.isModified, !isSaved);
+}
+
+void TestHotkeyHistory::equalsSnapshots()
+{
+    QvelShortcutManager store;
+    for (int i = 0; i < 12; ++i)
+        HotkeyEdits::give(store, anyAction(), anyKey(), s("Base"));
+    store.applyTransforms();
+    QvelHotkeyHistory history(&store);
+    QSignalSpy recorded(&store, &QvelShortcutManager::shortcutTransformAdded);
+    std::vector<Snapshot> snapshots{snapshot(store)};
+    int restored = 0;
+    for (int round = 0; round < 10000; ++round) {
+        const int index = history.index();
+        const unsigned operation = below(100);
+        if (operation < 45) {
+            recorded.clear();
+            edit(store);
+            if (recorded.isEmpty() && history.index() == index)
+                continue;
+            QCOMPARE(history.index(), index + 1);
+            QCOMPARE(history.count(), index + 1);
+            snapshots.resize(std::size_t(index) + 1);
+            snapshots.push_back(snapshot(store));
+        } else if (operation < 90) {
+            if (operation < 65)
+                history.undo();
+            else if (operation < 85)
+                history.redo();
+            else
+                history.setIndex(int(below(unsigned(history.count()) + 1)));
+            compare(store, snapshots[std::size_t(history.index())]);
+            restored += history.index() != index ? 1 : 0;
+        } else if (operation < 98) {
+            const bool isWritable = below(3) > 0;
+            QCOMPARE(store.saveShortcutTransforms(
+                             m_host->path(isWritable ? s("set.hsx") : s("nowhere/set.hsx"))),
+                     isWritable);
+            if (isWritable) {
+                ++m_saves;
+                m_saved = store.currentTransformations();
+            }
+            snapshots[std::size_t(index)] = snapshot(store);
+        } else if (operation == 98) {
+            store.collapseTransforms(below(3));
+            snapshots[std::size_t(index)] = snapshot(store);
+        } else if (below(20) == 0) {
+            QVERIFY(store.loadShortcutTransforms(m_host->write(
+                    s("other.hsx"), "<VelHotkeyTransformations><Assign_Hotkey Shortcut='A' "
+                                    "Id='1-action1'/></VelHotkeyTransformations>")));
+            QCOMPARE(history.count(), 0);
+            snapshots = {snapshot(store)};
+        }
+        QCOMPARE(history.isClean(), !store.isUserModified());
+        if (QTest::currentTestFailed()) {
+            qWarning("in round %d", round);
+            return;
+        }
+    }
+    QVERIFY(restored > 1000);
+}
+
+void TestHotkeyHistory::outlivesSlotsThatEdit()
+{
+    QvelShortcutManager store;
+    QvelHotkeyHistory history(&store);
+    for (const char *key : {"A", "B", "C"})
+        store.assignShortcut(m_ids[0], s(key), QString());
+    const auto connection = connect(&store, &QvelShortcutManager::shortcutTransformsCleared, this,
+                                    [&] { store.assignShortcut(m_ids[1], s("D"), QString()); });
+    history.setIndex(0);
+    disconnect(connection);
+    QCOMPARE(history.count(), 0);
+    store.assignShortcut(m_ids[2], s("E"), QString());
+    history.undo();
+    QVERIFY(store.getShortcutsFromActionId(m_ids[2]).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestHotkeyHistory)
+#include "tst_HotkeyHistory.moc"
