@@ -5,16 +5,19 @@
 
 #include <UiCustomizations/IPathManager.h>
 #include <UiCustomizations/QvelActionItemModel.h>
+#include <UiCustomizations/QvelKeyboardWidget.h>
 #include <UiCustomizations/QvelMenusWidget.h>
 #include <UiCustomizations/QvelMessageLog.h>
 #include <UiCustomizations/QvelMessageLogWidget.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 #include <UiCustomizations/QvelShortcutsWidget.h>
+#include <UiCustomizations/VelAction.h>
 
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QTreeView>
@@ -44,6 +47,7 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
       m_model(new CUI::QvelActionItemModel(&manager, this)),
       m_menuModel(new CUI::QvelActionItemModel(nullptr, this)),
       m_editor(new CUI::QvelShortcutsWidget(m_model, &manager)),
+      m_keyboard(new CUI::QvelKeyboardWidget(&manager)),
       m_log(new CUI::QvelMessageLogWidget),
       m_tabs(new QTabWidget)
 {
@@ -52,6 +56,7 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     resize(1040, 680);
     m_tabs->addTab(m_editor, tr("&Hotkeys"));
+    addKeyboard();
     // Sorting the list of actions sorts its model, which the hotkeys' rows would follow.
     m_tabs->addTab(makeMenusView(m_menuModel), tr("&Menus"));
     m_tabs->addTab(m_log, tr("&Log"));
@@ -80,6 +85,31 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     connect(&manager, &CUI::QvelShortcutManager::shortcutConfigurationLoaded, this, later);
     connect(&manager, &CUI::QvelShortcutManager::shortcutTransformsCleared, this, later);
     showTitle();
+}
+
+void CustomizeDialog::addKeyboard()
+{
+    m_tabs->addTab(m_keyboard, tr("&Keyboard"));
+    m_tabs->tabBar()->setChangeCurrentOnDrag(true); // an action of the table onto a key
+    connect(m_keyboard, &CUI::QvelKeyboardWidget::hotkeyActivated, this,
+            [this](const QString &hotkey) {
+                m_tabs->setCurrentWidget(m_editor);
+                m_editor->searchForHotkey(hotkey);
+            });
+    connect(m_tabs, &QTabWidget::currentChanged, m_keyboard, [this] {
+        const CUI::VelAction *action = m_editor->currentAction();
+        m_keyboard->setCurrentAction(action != nullptr ? action->identifier()
+                                                       : CUI::ActionIdentifier());
+    });
+}
+
+void CustomizeDialog::setContextsEverywhere(const std::vector<unsigned long> &contexts)
+{
+    CUI::HotkeyAudit::Options options;
+    options.everywhere = contexts;
+    options.isEverywhereOrdered = true;
+    options.systems = CUI::HotkeyReservation::systemsHere();
+    m_keyboard->setOptions(options);
 }
 
 void CustomizeDialog::setLoggedText(const QString &lines)

@@ -2,11 +2,14 @@
 
 #include <QDialog>
 
+#include <vector>
+
 class QTabWidget;
 
 namespace CUI {
 class HotkeySetWatcher;
 class QvelActionItemModel;
+class QvelKeyboardWidget;
 class QvelMessageLogWidget;
 class QvelShortcutManager;
 class QvelShortcutsWidget;
@@ -28,6 +31,8 @@ public:
     CUI::QvelShortcutsWidget *editor() const { return m_editor; }
     QTabWidget *tabs() const { return m_tabs; }
     CUI::QvelMessageLogWidget *log() const { return m_log; }
+    /// The contexts that count wherever the focus is, in the order in which they are asked.
+    void setContextsEverywhere(const std::vector<unsigned long> &contexts);
     /// Fills the log with what was logged before the dialog was opened.
     void setLoggedText(const QString &lines);
 
@@ -40,12 +45,14 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void addKeyboard();
     void showTitle();
 
     const CUI::QvelShortcutManager &m_manager;
     CUI::QvelActionItemModel *m_model;
     CUI::QvelActionItemModel *m_menuModel;
     CUI::QvelShortcutsWidget *m_editor;
+    CUI::QvelKeyboardWidget *m_keyboard;
     CUI::QvelMessageLogWidget *m_log;
     QTabWidget *m_tabs;
 };

@@ -7,9 +7,15 @@
 #include "MainWindow.h"
 #include "StudioSession.h"
 
+#include <UiCustomizations/QvelKeyboardWidget.h>
+
 #include <QApplication>
 #include <QDir>
+#include <QTabWidget>
 #include <QTemporaryDir>
+
+#include <algorithm>
+#include <iterator>
 
 namespace Studio::Pictures {
 
@@ -17,7 +23,23 @@ namespace {
 
 const QSize pictureSize(1228, 719);
 
-bool writeOne(const QString &hostDirectory, bool dark, const QString &file, QString &error)
+void showEditor(CustomizeDialog *dialog)
+{
+    const EditorHands hands(dialog);
+    hands.select({2, QStringLiteral("duplicateObject")});
+    hands.press(Qt::Key_J, Qt::NoModifier);
+}
+
+void showKeyboard(CustomizeDialog *dialog)
+{
+    auto *keyboard = dialog->findChild<CUI::QvelKeyboardWidget *>();
+    dialog->tabs()->setCurrentWidget(keyboard);
+    keyboard->setCurrentHotkey(QStringLiteral("T"));
+    keyboard->setFocus();
+}
+
+bool writeOne(const QString &hostDirectory, bool dark, void (*show)(CustomizeDialog *dialog),
+              const QString &file, QString &error)
 {
     Appearance::apply(dark);
     const QTemporaryDir user;
@@ -31,9 +53,7 @@ bool writeOne(const QString &hostDirectory, bool dark, const QString &file, QStr
     dialog->resize(pictureSize);
     QApplication::setActiveWindow(dialog);
     Gestures::wait(100);
-    const EditorHands hands(dialog);
-    hands.select({2, QStringLiteral("duplicateObject")});
-    hands.press(Qt::Key_J, Qt::NoModifier);
+    show(dialog);
     Gestures::wait(100);
     const QPixmap picture = dialog->grab();
     dialog->close();
@@ -53,10 +73,19 @@ bool write(const QString &hostDirectory, const QString &folder, QString &error)
         return false;
     }
     const QDir directory(folder);
-    return writeOne(hostDirectory, false, directory.filePath(QStringLiteral("editor-light.png")),
-                    error)
-           && writeOne(hostDirectory, true, directory.filePath(QStringLiteral("editor-dark.png")),
-                       error);
+    const struct {
+        const char *name;
+        bool dark;
+        void (*show)(CustomizeDialog *dialog);
+    } pictures[] = {
+            {"editor-light.png", false, showEditor},
+            {"editor-dark.png", true, showEditor},
+            {"keyboard.png", false, showKeyboard},
+    };
+    return std::all_of(std::begin(pictures), std::end(pictures), [&](const auto &picture) {
+        return writeOne(hostDirectory, picture.dark, picture.show,
+                        directory.filePath(QLatin1String(picture.name)), error);
+    });
 }
 
 } // namespace Studio::Pictures

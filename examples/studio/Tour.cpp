@@ -203,7 +203,7 @@ void Tour::openDialog()
     step(QStringLiteral("Ctrl+Alt+K opens the dialog"));
     check(m_dialog->windowTitle().contains(QLatin1String("Velstudio Default Keyset")),
           QStringLiteral("the title names the set"));
-    for (int tab : {1, 2}) {
+    for (int tab : {1, 2, 3}) {
         m_dialog->tabs()->setCurrentIndex(tab);
         step(m_dialog->tabs()->tabText(tab).remove(QLatin1Char('&')));
     }

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTreeView>
 
 namespace CUI {
@@ -35,6 +36,13 @@ void ActionSearch::searchByActions()
 void ActionSearch::searchByHotkeys()
 {
     setKeyColumn(QvelActionItemModel::HotkeyColumn);
+}
+
+void ActionSearch::searchForHotkey(const QString &hotkey)
+{
+    m_form.hotkeyRadioButton->setChecked(true);
+    searchByHotkeys();
+    m_hotkey->setHotkey(hotkey);
 }
 
 void ActionSearch::setKeyColumn(int column)

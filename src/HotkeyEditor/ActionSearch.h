@@ -23,6 +23,8 @@ public:
     bool isByHotkeys() const;
     void searchByActions();
     void searchByHotkeys();
+    /// Searches for a hotkey in portable form as if its keys had been pressed.
+    void searchForHotkey(const QString &hotkey);
     /// A header was clicked: plain sorting by that column, even during a search.
     void returnToColumnSorting();
     /// A key press in the field. True when it is handled: Escape ends a search by names.

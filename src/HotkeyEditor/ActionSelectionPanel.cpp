@@ -2,6 +2,7 @@
 
 #include "ActionListTreeItemDelegate.h"
 #include "AssignedHotkeyRows.h"
+#include "ConflictDialogs.h"
 #include "EditorText.h"
 #include "FocusWithin.h"
 #include "HotkeyEditorForm.h"
@@ -17,8 +18,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QTextBoundaryFinder>
@@ -211,7 +210,7 @@ void ActionSelectionPanel::assign()
         return;
     const bool isHeld = holderOf(shortcut) != nullptr;
     if (!isHeld && isFull()) {
-        reportFullList();
+        ConflictDialogs::reportFullList(m_form.newHotkeysGroupBox->window());
         return;
     }
     const ActionIdentifier id = action->identifier();
@@ -227,21 +226,6 @@ bool ActionSelectionPanel::isFull() const
 {
     const QString hotkeys = m_manager->getShortcutsFromActionId(m_currentAction);
     return JoinedHotkeys::split(hotkeys).size() >= QShortcutsList::ShortcutLimitPerAction;
-}
-
-void ActionSelectionPanel::reportFullList()
-{
-    // Destroyed with the editor's window when the host closes that while the box is open.
-    const QPointer<QMessageBox> box = new QMessageBox(
-            QMessageBox::Information,
-            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Too Many Hotkeys")),
-            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget",
-                                         "An action can have at most %1 hotkeys.\n\nRemove "
-                                         "one of them before you assign another.\n"))
-                    .arg(QShortcutsList::ShortcutLimitPerAction),
-            QMessageBox::Ok, m_form.newHotkeysGroupBox->window());
-    box->exec();
-    delete box.data();
 }
 
 void ActionSelectionPanel::removeFromHolder()
@@ -290,7 +274,7 @@ void ActionSelectionPanel::undoRow(const QString &shortcut)
     if (action == nullptr)
         return;
     if (isFull()) {
-        reportFullList();
+        ConflictDialogs::reportFullList(m_form.newHotkeysGroupBox->window());
         return;
     }
     const ActionIdentifier id = action->identifier();

@@ -72,7 +72,6 @@ private:
     void describe(const VelAction &action, const QString &group);
     VelAction *holderOf(const QString &shortcut) const;
     bool isFull() const;
-    void reportFullList();
     void removeRow(const QString &shortcut);
     void undoRow(const QString &shortcut);
     void showAlreadyAssignedControls();

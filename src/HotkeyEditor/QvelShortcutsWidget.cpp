@@ -72,6 +72,11 @@ void QvelShortcutsWidget::setHotkeyFilter(int index)
     d->form.hotkeyFilterComboBox->setCurrentIndex(index);
 }
 
+void QvelShortcutsWidget::searchForHotkey(const QString &hotkey)
+{
+    d->search->searchForHotkey(hotkey);
+}
+
 void QvelShortcutsWidget::sortActionTreeByColumn(QvelActionItemModel::ActionTreeColumns column)
 {
     d->form.keyActionsTreeView->sortByColumn(column, Qt::AscendingOrder);

@@ -66,6 +66,9 @@ public:
     void setCurrentContext(unsigned long contextId);
     /// Chooses an entry of the hotkey filter: a QvelSortFilterProxyModel::HotkeyFilter.
     void setHotkeyFilter(int index);
+    /// Searches the list for @p hotkey, in portable form, as if its keys had been pressed in the
+    /// search field. An empty text ends the search.
+    void searchForHotkey(const QString &hotkey);
     /// Sorts the list by that column, in ascending order.
     void sortActionTreeByColumn(QvelActionItemModel::ActionTreeColumns column);
     /// Reads the actions of the registry again. Column widths stay, and so does the selected

@@ -157,6 +157,7 @@ void QvelShortcutsWidget::Private::setUpTree()
     tree->setSortingEnabled(true);
     tree->sortByColumn(QvelActionItemModel::ActionColumn, Qt::AscendingOrder);
     tree->setSelectionBehavior(QAbstractItemView::SelectRows);
+    tree->setDragDropMode(QAbstractItemView::DragOnly); // onto the keys of a keyboard
     delegate = new ActionListTreeItemDelegate(tree, manager);
     tree->setItemDelegate(delegate);
     setDefaultHeadersSizes();

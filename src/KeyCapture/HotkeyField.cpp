@@ -1,5 +1,7 @@
 #include "HotkeyField.h"
 
+#include "KeyNames.h"
+
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLineEdit>
@@ -42,6 +44,15 @@ QString HotkeyField::hotkey() const
     if (!hasHotkey())
         return {};
     return QKeySequence(m_captured.combination).toString(QKeySequence::PortableText);
+}
+
+void HotkeyField::setHotkey(const QString &hotkey)
+{
+    const QKeySequence keys = KeyNames::keyOf(hotkey);
+    m_captured = {};
+    if (!keys.isEmpty())
+        m_captured.combination = keys[0];
+    m_edit->setText(HotkeyRecorder::text(m_captured));
 }
 
 void HotkeyField::clear()

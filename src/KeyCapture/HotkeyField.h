@@ -33,6 +33,8 @@ public:
 
     /// The hotkey as the store has it; empty without one.
     QString hotkey() const;
+    /// Shows a hotkey in portable form as if its keys had been pressed.
+    void setHotkey(const QString &hotkey);
     bool hasHotkey() const { return m_captured.combination != 0; }
     /// Forgets the hotkey and empties the edit.
     void clear();

@@ -40,14 +40,22 @@ int modifierOf(int key)
     }
 }
 
+/// The modifier that the key of the event stands for; 0 for other keys.
+int modifierOf(const QKeyEvent &event, int virtualKey)
+{
+    return virtualKey == VirtualKeys::alt ? int{Qt::AltModifier} : modifierOf(event.key());
+}
+
 /// Hotkeys never have Meta.
+int withoutMeta(int modifiers)
+{
+    return modifiers & (int{Qt::ShiftModifier} | int{Qt::ControlModifier} | int{Qt::AltModifier});
+}
+
 int heldModifiers(const QKeyEvent &event, int virtualKey)
 {
     // An event does not always count the key that it reports among the modifiers.
-    const int pressed =
-            virtualKey == VirtualKeys::alt ? int{Qt::AltModifier} : modifierOf(event.key());
-    const int held = static_cast<int>(event.modifiers()) | pressed;
-    return held & (int{Qt::ShiftModifier} | int{Qt::ControlModifier} | int{Qt::AltModifier});
+    return withoutMeta(static_cast<int>(event.modifiers()) | modifierOf(event, virtualKey));
 }
 
 /// The key as it is without Shift and other modifiers.
@@ -100,6 +108,14 @@ WayOut wayOut(const QKeyEvent &event)
         return WayOut::None;
     const bool isBack = event.key() == Qt::Key_Backtab || (modifiers & int{Qt::ShiftModifier}) != 0;
     return isBack ? WayOut::Previous : WayOut::Next;
+}
+
+Qt::KeyboardModifiers heldAfter(const QKeyEvent &event)
+{
+    if (event.type() == QEvent::KeyPress || modifierOf(event.key()) == 0)
+        return Qt::KeyboardModifiers(heldModifiers(event, NativeKeys::virtualKeyOf(event)));
+    const int released = modifierOf(event, NativeKeys::virtualKeyOf(event));
+    return Qt::KeyboardModifiers(withoutMeta(static_cast<int>(event.modifiers()) & ~released));
 }
 
 QString text(const Capture &capture)

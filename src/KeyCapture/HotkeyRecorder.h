@@ -28,6 +28,9 @@ enum class WayOut { None, Next, Previous };
 /// hotkey.
 WayOut wayOut(const QKeyEvent &event);
 
+/// Those of Shift, Control and Alt that are held after a key was pressed or released.
+Qt::KeyboardModifiers heldAfter(const QKeyEvent &event);
+
 /// The text that a field shows, in the user's language: the hotkey, or without one the modifiers.
 QString text(const Capture &capture);
 

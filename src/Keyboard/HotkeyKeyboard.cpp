@@ -25,6 +25,7 @@ using Key = HotkeyKeyboard::Key;
 using State = HotkeyKeyboard::State;
 using Holder = HotkeyKeyboard::Holder;
 
+constexpr int hotkeyModifiers = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
 constexpr double unit = 100;
 constexpr double gap = 6;
 
@@ -123,6 +124,7 @@ public:
     void placeKeys();
     void updateStates();
 
+    std::vector<Holder> holdersOf(int code, int held) const;
     std::vector<HotkeyReservation> reservationsOf(const Key &key) const;
     std::optional<HotkeyFinding> sharingOf(const Key &key) const;
 
@@ -134,8 +136,7 @@ public:
     std::unordered_map<int, std::vector<Holder>> holdersOfKeys;
 
 private:
-    std::vector<int> combinationsOf(const Key &key) const;
-    std::vector<Holder> holdersOf(const Key &key) const;
+    std::vector<int> combinationsOf(int code, int held) const;
     bool counts(unsigned long contextId) const;
     State stateOf(const Key &key) const;
 };
@@ -152,6 +153,8 @@ void HotkeyKeyboard::Private::placeKeys()
                                      .adjusted(gap / 2, gap / 2, -gap / 2, -gap / 2));
         }
         label(key, layout);
+        if (modifierOf(key.code) != Qt::MetaModifier)
+            key.modifier = static_cast<Qt::KeyboardModifier>(modifierOf(key.code));
         keys.push_back(key);
     }
     updateStates();
@@ -162,47 +165,47 @@ void HotkeyKeyboard::Private::updateStates()
     for (Key &key : keys) {
         const bool isShifted = (modifiers & int{Qt::ShiftModifier}) != 0;
         const int hotkeyKey = layout.hotkeyKey(key.code, isShifted);
-        key.isHeld = (modifierOf(key.code) & modifiers) != 0;
+        key.isHeld = (key.modifier & modifiers) != 0;
         const QKeySequence pressed(hotkeyKey | modifiers);
         const bool makesHotkey = KeyNames::canBeHotkey(hotkeyKey | modifiers);
         key.hotkey = makesHotkey ? pressed.toString(QKeySequence::PortableText) : QString();
         key.name = makesHotkey ? pressed.toString(QKeySequence::NativeText)
                                : nameOfKey(key.code, hotkeyKey);
-        key.holders = holdersOf(key);
+        key.holders = holdersOf(key.code, modifiers);
         key.state = stateOf(key);
     }
 }
 
 /// All that a press of the key with the modifiers can mean: a hotkey may name the character that
 /// is typed (Ctrl++) in place of the key and Shift (Ctrl+Shift+=).
-std::vector<int> HotkeyKeyboard::Private::combinationsOf(const Key &key) const
+std::vector<int> HotkeyKeyboard::Private::combinationsOf(int code, int held) const
 {
-    if (key.hotkey.isEmpty())
+    const bool isShifted = (held & int{Qt::ShiftModifier}) != 0;
+    const int hotkey = layout.hotkeyKey(code, isShifted) | held;
+    if (!KeyNames::canBeHotkey(hotkey))
         return {};
-    const bool isShifted = (modifiers & int{Qt::ShiftModifier}) != 0;
-    const int hotkeyKey = layout.hotkeyKey(key.code, isShifted);
-    std::vector<int> combinations{hotkeyKey | modifiers};
+    std::vector<int> combinations{hotkey};
     const auto add = [&combinations](int combination) {
         if (std::find(combinations.begin(), combinations.end(), combination) == combinations.end())
             combinations.push_back(combination);
     };
-    if (key.code == KeyCodes::enter)
-        add(Qt::Key_Return | modifiers);
-    const KeyboardLayout::Characters typed = layout.characters(key.code);
+    if (code == KeyCodes::enter)
+        add(Qt::Key_Return | held);
+    const KeyboardLayout::Characters typed = layout.characters(code);
     const char32_t character = isShifted ? typed.shifted : typed.plain;
-    if (character == 0 || key.code == KeyCodes::keypadPoint)
+    if (character == 0 || code == KeyCodes::keypadPoint)
         return combinations;
     const int upper = static_cast<int>(QChar::toUpper(static_cast<uint>(character)));
-    add(upper | modifiers);
+    add(upper | held);
     if (!QChar::isLetter(static_cast<uint>(character)))
-        add(upper | (modifiers & ~int{Qt::ShiftModifier}));
+        add(upper | (held & ~int{Qt::ShiftModifier}));
     return combinations;
 }
 
-std::vector<Holder> HotkeyKeyboard::Private::holdersOf(const Key &key) const
+std::vector<Holder> HotkeyKeyboard::Private::holdersOf(int code, int held) const
 {
     std::vector<Holder> holders;
-    for (const int combination : combinationsOf(key)) {
+    for (const int combination : combinationsOf(code, held)) {
         const auto found = holdersOfKeys.find(combination);
         if (found == holdersOfKeys.end())
             continue;
@@ -290,8 +293,7 @@ void HotkeyKeyboard::setOptions(const HotkeyAudit::Options &options)
 
 void HotkeyKeyboard::setModifiers(Qt::KeyboardModifiers modifiers)
 {
-    d->modifiers = static_cast<int>(modifiers
-                                    & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier));
+    d->modifiers = static_cast<int>(modifiers) & hotkeyModifiers;
     d->updateStates();
 }
 
@@ -324,16 +326,22 @@ const std::vector<Key> &HotkeyKeyboard::keys() const
 
 const Key *HotkeyKeyboard::keyOf(const QString &hotkey) const
 {
-    const QKeySequence sequence = QKeySequence::fromString(hotkey);
+    const QKeySequence sequence = KeyNames::keyOf(hotkey);
     if (sequence.count() != 1)
         return nullptr;
-    constexpr int modifiers = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
-    const int wanted = sequence[0] & ~modifiers;
+    const int wanted = sequence[0] & ~hotkeyModifiers;
     const auto found = std::find_if(d->keys.begin(), d->keys.end(), [&](const Key &key) {
         return d->layout.hotkeyKey(key.code) == wanted
                || d->layout.hotkeyKey(key.code, true) == wanted;
     });
     return found != d->keys.end() ? &*found : nullptr;
+}
+
+std::vector<Holder> HotkeyKeyboard::holdersOf(const QString &hotkey) const
+{
+    const Key *key = keyOf(hotkey);
+    return key != nullptr ? d->holdersOf(key->code, KeyNames::keyOf(hotkey)[0] & hotkeyModifiers)
+                          : std::vector<Holder>();
 }
 
 QString HotkeyKeyboard::describe(const Key &key) const

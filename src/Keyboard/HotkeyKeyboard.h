@@ -60,6 +60,8 @@ public:
         /// The hotkey, in the portable form; empty in the state NoHotkey.
         QString hotkey;
         State state = State::NoHotkey;
+        /// What the key stands for, of Shift, Control and Alt; none for other keys.
+        Qt::KeyboardModifier modifier = Qt::NoModifier;
         /// True for the keys of the modifiers that are chosen.
         bool isHeld = false;
         /// By context and action.
@@ -95,6 +97,8 @@ public:
     /// The key that makes @p hotkey, whatever its modifiers; null when there is none.
     const Key *keyOf(const QString &hotkey) const;
 
+    /// Who has @p hotkey, with its own modifiers, as Key::holders.
+    std::vector<Holder> holdersOf(const QString &hotkey) const;
     /// The state, the actions that have the hotkey with their contexts, what it does when it is
     /// shadowed, and who reserves it, one a line.
     QString describe(const Key &key) const;

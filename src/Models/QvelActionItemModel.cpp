@@ -1,5 +1,6 @@
 #include "QvelActionItemModel.h"
 
+#include "HotkeyDrag.h"
 #include "ICuiActionManager.h"
 #include "QvelActionItem.h"
 #include "QvelShortcutManager.h"
@@ -195,6 +196,22 @@ QVariant QvelActionItemModel::data(const QModelIndex &index, int role) const
 Qt::ItemFlags QvelActionItemModel::flags(const QModelIndex &index) const
 {
     return QStandardItemModel::flags(index) & ~Qt::ItemIsEditable;
+}
+
+QStringList QvelActionItemModel::mimeTypes() const
+{
+    return {HotkeyDrag::actionType()};
+}
+
+QMimeData *QvelActionItemModel::mimeData(const QModelIndexList &indexes) const
+{
+    const VelAction *action = velActionFromModelIdx(indexes.value(0));
+    return action != nullptr ? HotkeyDrag::ofAction(action->identifier()) : nullptr;
+}
+
+Qt::DropActions QvelActionItemModel::supportedDragActions() const
+{
+    return Qt::CopyAction; // a view removes what it has moved away
 }
 
 void QvelActionItemModel::shortcutFileAboutToLoad()

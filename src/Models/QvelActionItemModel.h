@@ -78,6 +78,19 @@ public:
     /// What QStandardItemModel answers, without Qt::ItemIsEditable.
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
+    /// \name Drag and drop
+    /// A view in which dragging is enabled lets the user drag an action onto a key of a
+    /// QvelKeyboardWidget of the same application. Nothing can be dropped on the table.
+    /// @{
+
+    /// A type of the library's own.
+    QStringList mimeTypes() const override;
+    /// The action of the first index; null when there is none.
+    QMimeData *mimeData(const QModelIndexList &indexes) const override;
+    /// Qt::CopyAction.
+    Qt::DropActions supportedDragActions() const override;
+    /// @}
+
 public Q_SLOTS:
     /// Reads the hotkeys of one action again. Does nothing when no row shows it and between the two
     /// signals of a configuration that is loading.

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QKeySequence>
+#include <QSysInfo>
 
 #include <algorithm>
 
@@ -227,6 +228,16 @@ std::vector<HotkeyReservation> HotkeyReservation::of(const QString &hotkey)
             found.push_back(reservation(row, key[0]));
     }
     return found;
+}
+
+std::vector<System> HotkeyReservation::systemsHere()
+{
+    const QString kernel = QSysInfo::kernelType();
+    if (kernel == QLatin1String("winnt"))
+        return {System::Windows, System::TextFields};
+    if (kernel == QLatin1String("darwin"))
+        return {System::MacOs, System::TextFields};
+    return {System::Kde, System::Gnome, System::TextFields};
 }
 
 QString HotkeyReservation::nameOf(System system)

@@ -40,6 +40,10 @@ struct CUI_CORE_EXPORT HotkeyReservation {
     /// another layout makes of a key is not considered.
     static std::vector<HotkeyReservation> of(const QString &hotkey);
 
+    /// The systems that can take a key from an application that runs here: the desktops of the
+    /// operating system, whichever is running, and the text fields.
+    static std::vector<System> systemsHere();
+
     /// The name of a system, which is the same in every language: "KDE". For text fields it is
     /// translated.
     static QString nameOf(System system);

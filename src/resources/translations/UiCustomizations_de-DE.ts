@@ -269,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>CUI::KeyboardChoosers</name>
+    <message>
+        <source>%1 groups</source>
+        <translation>%1 Gruppen</translation>
+    </message>
+    <message>
+        <source>Modifiers:</source>
+        <translation>Umschalttasten:</translation>
+    </message>
+    <message>
+        <source>Shape:</source>
+        <translation>Form:</translation>
+    </message>
+    <message>
+        <source>Of the layout in use</source>
+        <translation>Der verwendeten Belegung</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>
@@ -300,6 +319,33 @@
     <message>
         <source>Successfully removed</source>
         <translation>Erfolgreich entfernt</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelKeyboardWidget</name>
+    <message>
+        <source>Show in the Table</source>
+        <translation>In der Tabelle anzeigen</translation>
+    </message>
+    <message>
+        <source>Assign to %1</source>
+        <translation>%1 zuweisen</translation>
+    </message>
+    <message>
+        <source>Move %1 to Another Key</source>
+        <translation>%1 auf eine andere Taste verschieben</translation>
+    </message>
+    <message>
+        <source>Move %1 Here</source>
+        <translation>%1 hierher verschieben</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>Actions of the key</source>
+        <translation>Aktionen der Taste</translation>
     </message>
 </context>
 <context>
@@ -744,6 +790,22 @@ Beim Speichern werden diese Änderungen durch Ihre ersetzt.
     <message>
         <source>Save Anyway</source>
         <translation>Trotzdem speichern</translation>
+    </message>
+    <message>
+        <source>%1 is already assigned to:
+
+%2
+
+Reassign it?</source>
+        <translation>%1 ist bereits zugewiesen:
+
+%2
+
+Neu zuweisen?</translation>
+    </message>
+    <message>
+        <source>Reassign Hotkey</source>
+        <translation>Tastenkürzel neu zuweisen</translation>
     </message>
 </context>
 </TS>

@@ -269,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>CUI::KeyboardChoosers</name>
+    <message>
+        <source>%1 groups</source>
+        <translation>%1 groupes</translation>
+    </message>
+    <message>
+        <source>Modifiers:</source>
+        <translation>Modificateurs :</translation>
+    </message>
+    <message>
+        <source>Shape:</source>
+        <translation>Forme :</translation>
+    </message>
+    <message>
+        <source>Of the layout in use</source>
+        <translation>De la disposition utilisée</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>
@@ -300,6 +319,33 @@
     <message>
         <source>Successfully removed</source>
         <translation>Raccourci supprimé</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelKeyboardWidget</name>
+    <message>
+        <source>Show in the Table</source>
+        <translation>Afficher dans le tableau</translation>
+    </message>
+    <message>
+        <source>Assign to %1</source>
+        <translation>Attribuer à %1</translation>
+    </message>
+    <message>
+        <source>Move %1 to Another Key</source>
+        <translation>Déplacer %1 vers une autre touche</translation>
+    </message>
+    <message>
+        <source>Move %1 Here</source>
+        <translation>Déplacer %1 ici</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Clavier</translation>
+    </message>
+    <message>
+        <source>Actions of the key</source>
+        <translation>Actions de la touche</translation>
     </message>
 </context>
 <context>
@@ -744,6 +790,22 @@ L’enregistrement remplace ces modifications par les vôtres.
     <message>
         <source>Save Anyway</source>
         <translation>Enregistrer quand même</translation>
+    </message>
+    <message>
+        <source>%1 is already assigned to:
+
+%2
+
+Reassign it?</source>
+        <translation>%1 est déjà attribué à :
+
+%2
+
+Le réattribuer ?</translation>
+    </message>
+    <message>
+        <source>Reassign Hotkey</source>
+        <translation>Réattribuer le raccourci</translation>
     </message>
 </context>
 </TS>

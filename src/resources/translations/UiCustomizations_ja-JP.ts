@@ -269,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>CUI::KeyboardChoosers</name>
+    <message>
+        <source>%1 groups</source>
+        <translation>%1 グループ</translation>
+    </message>
+    <message>
+        <source>Modifiers:</source>
+        <translation>修飾キー:</translation>
+    </message>
+    <message>
+        <source>Shape:</source>
+        <translation>形状:</translation>
+    </message>
+    <message>
+        <source>Of the layout in use</source>
+        <translation>使用中の配列に合わせる</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>
@@ -300,6 +319,33 @@
     <message>
         <source>Successfully removed</source>
         <translation>削除しました</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelKeyboardWidget</name>
+    <message>
+        <source>Show in the Table</source>
+        <translation>表に表示</translation>
+    </message>
+    <message>
+        <source>Assign to %1</source>
+        <translation>%1 に割り当て</translation>
+    </message>
+    <message>
+        <source>Move %1 to Another Key</source>
+        <translation>%1 を別のキーに移動</translation>
+    </message>
+    <message>
+        <source>Move %1 Here</source>
+        <translation>%1 をここに移動</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>キーボード</translation>
+    </message>
+    <message>
+        <source>Actions of the key</source>
+        <translation>キーのアクション</translation>
     </message>
 </context>
 <context>
@@ -744,6 +790,22 @@ Saving replaces those changes by yours.
     <message>
         <source>Save Anyway</source>
         <translation>このまま保存</translation>
+    </message>
+    <message>
+        <source>%1 is already assigned to:
+
+%2
+
+Reassign it?</source>
+        <translation>%1 は次に割り当て済みです:
+
+%2
+
+再割り当てしますか?</translation>
+    </message>
+    <message>
+        <source>Reassign Hotkey</source>
+        <translation>ホットキーの再割り当て</translation>
     </message>
 </context>
 </TS>

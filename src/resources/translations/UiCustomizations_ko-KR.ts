@@ -269,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>CUI::KeyboardChoosers</name>
+    <message>
+        <source>%1 groups</source>
+        <translation>그룹 %1개</translation>
+    </message>
+    <message>
+        <source>Modifiers:</source>
+        <translation>조합 키:</translation>
+    </message>
+    <message>
+        <source>Shape:</source>
+        <translation>모양:</translation>
+    </message>
+    <message>
+        <source>Of the layout in use</source>
+        <translation>사용 중인 자판에 맞춤</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>
@@ -300,6 +319,33 @@
     <message>
         <source>Successfully removed</source>
         <translation>제거했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelKeyboardWidget</name>
+    <message>
+        <source>Show in the Table</source>
+        <translation>표에 표시</translation>
+    </message>
+    <message>
+        <source>Assign to %1</source>
+        <translation>%1에 할당</translation>
+    </message>
+    <message>
+        <source>Move %1 to Another Key</source>
+        <translation>%1을(를) 다른 키로 이동</translation>
+    </message>
+    <message>
+        <source>Move %1 Here</source>
+        <translation>%1을(를) 여기로 이동</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>키보드</translation>
+    </message>
+    <message>
+        <source>Actions of the key</source>
+        <translation>키의 동작</translation>
     </message>
 </context>
 <context>
@@ -744,6 +790,22 @@ Saving replaces those changes by yours.
     <message>
         <source>Save Anyway</source>
         <translation>그래도 저장</translation>
+    </message>
+    <message>
+        <source>%1 is already assigned to:
+
+%2
+
+Reassign it?</source>
+        <translation>%1은(는) 이미 다음에 할당되어 있습니다:
+
+%2
+
+다시 할당하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Reassign Hotkey</source>
+        <translation>단축키 다시 할당</translation>
     </message>
 </context>
 </TS>

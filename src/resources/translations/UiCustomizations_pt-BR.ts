@@ -269,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>CUI::KeyboardChoosers</name>
+    <message>
+        <source>%1 groups</source>
+        <translation>%1 grupos</translation>
+    </message>
+    <message>
+        <source>Modifiers:</source>
+        <translation>Modificadores:</translation>
+    </message>
+    <message>
+        <source>Shape:</source>
+        <translation>Formato:</translation>
+    </message>
+    <message>
+        <source>Of the layout in use</source>
+        <translation>Do layout em uso</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>
@@ -300,6 +319,33 @@
     <message>
         <source>Successfully removed</source>
         <translation>Removido com sucesso</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelKeyboardWidget</name>
+    <message>
+        <source>Show in the Table</source>
+        <translation>Mostrar na tabela</translation>
+    </message>
+    <message>
+        <source>Assign to %1</source>
+        <translation>Atribuir a %1</translation>
+    </message>
+    <message>
+        <source>Move %1 to Another Key</source>
+        <translation>Mover %1 para outra tecla</translation>
+    </message>
+    <message>
+        <source>Move %1 Here</source>
+        <translation>Mover %1 para cá</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Teclado</translation>
+    </message>
+    <message>
+        <source>Actions of the key</source>
+        <translation>Ações da tecla</translation>
     </message>
 </context>
 <context>
@@ -744,6 +790,22 @@ Ao salvar, essas alterações são substituídas pelas suas.
     <message>
         <source>Save Anyway</source>
         <translation>Salvar mesmo assim</translation>
+    </message>
+    <message>
+        <source>%1 is already assigned to:
+
+%2
+
+Reassign it?</source>
+        <translation>%1 já está atribuído a:
+
+%2
+
+Reatribuir?</translation>
+    </message>
+    <message>
+        <source>Reassign Hotkey</source>
+        <translation>Reatribuir atalho</translation>
     </message>
 </context>
 </TS>

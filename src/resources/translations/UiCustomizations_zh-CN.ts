@@ -269,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>CUI::KeyboardChoosers</name>
+    <message>
+        <source>%1 groups</source>
+        <translation>%1 个组</translation>
+    </message>
+    <message>
+        <source>Modifiers:</source>
+        <translation>修饰键：</translation>
+    </message>
+    <message>
+        <source>Shape:</source>
+        <translation>形状：</translation>
+    </message>
+    <message>
+        <source>Of the layout in use</source>
+        <translation>与所用布局一致</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelActionItemModel</name>
     <message>
         <source>Action</source>
@@ -300,6 +319,33 @@
     <message>
         <source>Successfully removed</source>
         <translation>已成功移除</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelKeyboardWidget</name>
+    <message>
+        <source>Show in the Table</source>
+        <translation>在表中显示</translation>
+    </message>
+    <message>
+        <source>Assign to %1</source>
+        <translation>指定给 %1</translation>
+    </message>
+    <message>
+        <source>Move %1 to Another Key</source>
+        <translation>将 %1 移到其他键</translation>
+    </message>
+    <message>
+        <source>Move %1 Here</source>
+        <translation>将 %1 移到此处</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>键盘</translation>
+    </message>
+    <message>
+        <source>Actions of the key</source>
+        <translation>按键的操作</translation>
     </message>
 </context>
 <context>
@@ -744,6 +790,22 @@ Saving replaces those changes by yours.
     <message>
         <source>Save Anyway</source>
         <translation>仍然保存</translation>
+    </message>
+    <message>
+        <source>%1 is already assigned to:
+
+%2
+
+Reassign it?</source>
+        <translation>%1 已指定给：
+
+%2
+
+要重新指定吗？</translation>
+    </message>
+    <message>
+        <source>Reassign Hotkey</source>
+        <translation>重新指定快捷键</translation>
     </message>
 </context>
 </TS>

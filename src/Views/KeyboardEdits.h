@@ -1,0 +1,34 @@
+#pragma once
+
+#include "HotkeyKeyboard.h"
+
+class QWidget;
+
+namespace CUI {
+
+class QvelShortcutManager;
+
+/// Edits by which keys are filled: they ask before a hotkey is taken from another action.
+class KeyboardEdits
+{
+public:
+    using Holders = std::vector<HotkeyKeyboard::Holder>;
+
+    /// @p window is the parent of what is asked. Both must outlive the object.
+    KeyboardEdits(QvelShortcutManager *manager, QWidget *window);
+
+    /// Gives the hotkey to the action, in its context.
+    void assign(const ActionIdentifier &action, const QString &hotkey);
+    /// Gives the hotkey to each of the actions in place of the one that it has now.
+    void move(const Holders &holders, const QString &hotkey);
+
+private:
+    Holders takenFrom(const Holders &holders, const QString &hotkey) const;
+    bool confirm(const Holders &losers, const QString &hotkey) const;
+    void unassign(const HotkeyKeyboard::Holder &holder);
+
+    QvelShortcutManager *m_manager;
+    QWidget *m_window;
+};
+
+} // namespace CUI
