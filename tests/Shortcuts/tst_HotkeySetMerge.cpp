@@ -119,7 +119,6 @@ void TestHotkeySetMerge::merges_data()
     };
     row("only mine", "a+X|b-Y a+X|a+X", "b-Y a+X");
     row("only theirs", "b-Y a+X|b-Y a+X|", "");
-    row("different actions", "a+X|a+X b+Y|c-Z", "b+Y c-Z");
     row("both the same", "a+X|b+Y a-X|a-X b+Y", "b+Y a-X");
     row("the same in another order", "|a+Y a+X|a+X a+Y", "a+X a+Y");
     row("opposite steps are none", "|a+X a-X b+Y|c+Z", "b+Y c+Z");

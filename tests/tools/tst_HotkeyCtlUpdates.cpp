@@ -71,9 +71,6 @@ void HotkeyCtlUpdatesTest::merges()
     QCOMPARE(m_host->run("--set @/out.hsx steps").done(),
              s("Add 'F10' to Plain.\nAdd 'F11' to Copy.\n"));
     QCOMPARE(m_host->run(merge + s(" --theirs --ours")).code, 2);
-    QCOMPARE(m_host->run("merge @/base.hsx @/mine.hsx @/theirs.hsx --ours -o @/base.hsx").code, 0);
-    QCOMPARE(m_host->run("--set @/base.hsx steps").done(),
-             s("Add 'F11' to Cut.\nAdd 'F10' to Plain.\n"));
 }
 
 void HotkeyCtlUpdatesTest::keepsStepsThatDoNotApply()
