@@ -43,12 +43,11 @@ void addStepsFor(const ShortcutMap &map, const ShortcutMap &other, Step::Kind ki
 
 using Actions = std::unordered_set<ActionIdentifier>;
 
-/// The actions whose hotkeys can depend on the steps or on who holds @p hotkey.
-Actions actionsConcerned(const ShortcutMap &base, const RecordedSteps::Steps &steps,
-                         const QString &hotkey)
+/// The actions whose hotkeys can depend on the steps.
+Actions actionsConcerned(const ShortcutMap &base, const RecordedSteps::Steps &steps)
 {
     Actions actions;
-    std::unordered_set<CaseInsensitiveKey, CaseInsensitiveKeyHash> hotkeys{{hotkey}};
+    std::unordered_set<CaseInsensitiveKey, CaseInsensitiveKeyHash> hotkeys;
     for (const Step &step : steps) {
         actions.insert(step.actionId());
         hotkeys.insert({step.shortcut()});
@@ -113,27 +112,36 @@ constexpr int maximumRounds = 10;
 void HotkeyEdits::give(QvelShortcutManager &store, const ActionIdentifier &action,
                        const QString &hotkey, const QString &description)
 {
-    if (hotkey.isEmpty() || !store.hasRoomForShortcuts(action))
-        return;
-    // Copies, as the caller's may lie in the map that is about to change.
-    const Step step(Step::Assign, action, hotkey, description);
-    const HotkeyEditGroup group(&store);
-    const std::size_t count = store.currentTransformations().size();
-    const std::size_t taken = takeFromHolders(store, step.actionId(), step.shortcut());
-    store.assignShortcut(step.actionId(), step.shortcut(), step.description());
-    makeSavedEqualShown(store, step.shortcut(), count + taken + 1);
+    make(store, {Step(Step::Assign, action, hotkey, description)});
 }
 
 void HotkeyEdits::take(QvelShortcutManager &store, const ActionIdentifier &action,
                        const QString &hotkey, const QString &description)
 {
-    if (hotkey.isEmpty())
-        return;
-    const HotkeyEditGroup group(&store);
-    const QString text = hotkey; // the caller's may lie in the map that is about to change
-    const std::size_t count = store.currentTransformations().size();
-    store.unassignShortcut(action, text, description);
-    makeSavedEqualShown(store, text, count + 1);
+    make(store, {Step(Step::Unassign, action, hotkey, description)});
+}
+
+void HotkeyEdits::make(QvelShortcutManager &store, const RecordedSteps::Steps &edits,
+                       const QString &text)
+{
+    const HotkeyEditGroup group(&store, text);
+    std::size_t expectedCount = store.currentTransformations().size();
+    bool isMade = false;
+    for (const Step &edit : edits) {
+        const bool assigns = edit.kind() == Step::Assign;
+        if (edit.shortcut().isEmpty() || (assigns && !store.hasRoomForShortcuts(edit.actionId())))
+            continue;
+        isMade = true;
+        ++expectedCount;
+        if (assigns) {
+            expectedCount += takeFromHolders(store, edit.actionId(), edit.shortcut());
+            store.assignShortcut(edit.actionId(), edit.shortcut(), edit.description());
+        } else {
+            store.unassignShortcut(edit.actionId(), edit.shortcut(), edit.description());
+        }
+    }
+    if (isMade)
+        makeSavedEqualShown(store, edits, expectedCount);
 }
 
 std::size_t HotkeyEdits::takeFromHolders(QvelShortcutManager &store, const ActionIdentifier &action,
@@ -159,18 +167,21 @@ std::size_t HotkeyEdits::takeFromHolders(QvelShortcutManager &store, const Actio
     return taken;
 }
 
-void HotkeyEdits::makeSavedEqualShown(QvelShortcutManager &store, const QString &hotkey,
+void HotkeyEdits::makeSavedEqualShown(QvelShortcutManager &store, const RecordedSteps::Steps &edits,
                                       std::size_t expectedCount)
 {
     const RecordedSteps::Steps &steps = store.currentTransformations();
     for (int round = 0; round < maximumRounds; ++round) {
-        RecordedSteps::Steps saved = steps;
-        RecordedSteps::cancel(saved, 0);
+        RecordedSteps saved = *store.transformations;
+        saved.cancelFrom(0);
         // Steps that cancel nothing were recorded as they were made, and are replayed as such.
-        if (steps.size() == expectedCount && saved.size() == expectedCount)
+        if (steps.size() == expectedCount && saved.steps().size() == expectedCount)
             return;
-        const RecordedSteps::Steps lacking = lackingSteps(
-                store, saved, actionsConcerned(store.getBaseShortcuts(), steps, hotkey));
+        RecordedSteps::Steps made = store.allTransforms();
+        made.insert(made.end(), edits.begin(), edits.end()); // some are cancelled
+        const RecordedSteps::Steps lacking =
+                lackingSteps(store, store.keepsRefused ? saved.withRefusedSteps() : saved.steps(),
+                             actionsConcerned(store.getBaseShortcuts(), made));
         if (lacking.empty())
             return;
         for (const Step &step : lacking)

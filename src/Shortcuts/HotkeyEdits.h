@@ -1,11 +1,13 @@
 #pragma once
 
 #include "ActionIdentifier.h"
+#include "ShortcutTransformation.h"
 #include "UiCustomizationsExport.h"
 
 #include <QString>
 
 #include <cstddef>
+#include <vector>
 
 namespace CUI {
 
@@ -41,10 +43,16 @@ public:
     static void take(QvelShortcutManager &store, const ActionIdentifier &action,
                      const QString &hotkey, const QString &description);
 
+    /// Gives and takes one after the other, as one command of a QvelHotkeyHistory that @p text
+    /// names. Emits the signals of give() and take(), those of the restoring steps at the end.
+    static void make(QvelShortcutManager &store, const std::vector<ShortcutTransformation> &edits,
+                     const QString &text = QString());
+
 private:
     static std::size_t takeFromHolders(QvelShortcutManager &store, const ActionIdentifier &action,
                                        const QString &hotkey);
-    static void makeSavedEqualShown(QvelShortcutManager &store, const QString &hotkey,
+    static void makeSavedEqualShown(QvelShortcutManager &store,
+                                    const std::vector<ShortcutTransformation> &edits,
                                     std::size_t expectedCount);
 };
 

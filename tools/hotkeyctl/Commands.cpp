@@ -14,10 +14,11 @@ std::optional<QString> optionValue(const QCommandLineParser &line, const QString
 const std::vector<Command> &commands()
 {
     static const std::vector<Command> all = {
-            listCommand(),   ownerCommand(),    keyboardCommand(), lintCommand(),
-            assignCommand(), unassignCommand(), stepsCommand(),    checkCommand(),
-            setsCommand(),   useCommand(),      diffCommand(),     mergeCommand(),
-            showCommand(),   convertCommand(),  baseCommand(),     validateCommand(),
+            listCommand(),     ownerCommand(),    keyboardCommand(), lintCommand(),
+            assignCommand(),   unassignCommand(), resetCommand(),    stepsCommand(),
+            checkCommand(),    setsCommand(),     useCommand(),      diffCommand(),
+            mergeCommand(),    showCommand(),     convertCommand(),  baseCommand(),
+            validateCommand(),
     };
     return all;
 }

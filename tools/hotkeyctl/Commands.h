@@ -12,6 +12,7 @@ Command keyboardCommand();
 Command ownerCommand();
 Command assignCommand();
 Command unassignCommand();
+Command resetCommand();
 Command stepsCommand();
 Command checkCommand();
 Command baseCommand();

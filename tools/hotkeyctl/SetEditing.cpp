@@ -91,15 +91,21 @@ ExitCode run(const QCommandLineParser &line, Session &session, Accepts accepts, 
         shortcut = hotkeyText;
     if (!shortcut)
         return session.wrongUsage(reason);
-    if (target && checkTarget(session, *target) != ExitCode::Done)
-        return ExitCode::Problem;
 
     const Report report = edit(session, *action, *shortcut);
     if (!report)
         return ExitCode::Problem;
-    if (target && saveSet(line, session, *target) != ExitCode::Done)
+    return finish(line, session, *report);
+}
+
+ExitCode finish(const QCommandLineParser &line, Session &session, const QString &report)
+{
+    const std::optional<QString> target = optionValue(line, save);
+    if (target
+        && (checkTarget(session, *target) != ExitCode::Done
+            || saveSet(line, session, *target) != ExitCode::Done))
         return ExitCode::Problem;
-    session.out() << *report;
+    session.out() << report;
     if (target)
         session.out() << "Saved as " << printable(*target) << ".\n";
     else

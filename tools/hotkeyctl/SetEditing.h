@@ -25,6 +25,10 @@ enum class Accepts {
 /// Loads everything, makes the edit, saves and reports; the arguments are ID SHORTCUT.
 ExitCode run(const QCommandLineParser &line, Session &session, Accepts accepts, const Edit &edit);
 
+/// Saves the set as --save asks for, if it does, and prints @p report and what was done. Tells
+/// what went wrong.
+ExitCode finish(const QCommandLineParser &line, Session &session, const QString &report);
+
 /// The options --save FILE and --force.
 QList<QCommandLineOption> options();
 
