@@ -1,5 +1,6 @@
 #include "BaseHotkeyFile.h"
 #include "FuzzSupport.h"
+#include "XmlDocument.h"
 
 #include <QBuffer>
 
@@ -9,14 +10,6 @@ namespace {
 
 using namespace CUI;
 using Entries = std::vector<BaseHotkeyFile::Entry>;
-
-BaseHotkeyFile::Content read(const QByteArray &document)
-{
-    QBuffer buffer;
-    buffer.setData(document);
-    buffer.open(QIODevice::ReadOnly);
-    return BaseHotkeyFile::read(buffer);
-}
 
 // Where one hotkey ends is decided by the text in the file, not by the list that was written.
 bool isSame(const BaseHotkeyFile::Entry &a, const BaseHotkeyFile::Entry &b)
@@ -34,7 +27,7 @@ void checkRoundTrip(const Entries &entries)
                   "entries are written unless one is unwritable");
     if (!isWritten)
         return;
-    const BaseHotkeyFile::Content content = read(buffer.data());
+    const BaseHotkeyFile::Content content = BaseHotkeyFile::read(XmlDocument(buffer.data()));
     Fuzz::require(!content.error, "what is written can be read");
     Fuzz::require(std::equal(entries.begin(), entries.end(), content.entries.begin(),
                              content.entries.end(), isSame),
@@ -45,7 +38,8 @@ void checkRoundTrip(const Entries &entries)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const BaseHotkeyFile::Content content = read(Fuzz::bytesOf(data, size));
+    const BaseHotkeyFile::Content content =
+            BaseHotkeyFile::read(XmlDocument(Fuzz::bytesOf(data, size)));
     for (const BaseHotkeyFile::Entry &entry : content.entries)
         Fuzz::require(!entry.actionId.isEmpty() && !entry.shortcuts.isEmpty(),
                       "an entry has an action and a hotkey");

@@ -1,5 +1,6 @@
 #include "FuzzSupport.h"
 #include "HotkeySetFile.h"
+#include "XmlDocument.h"
 #include "XmlReading.h"
 
 #include <QBuffer>
@@ -10,15 +11,6 @@ namespace {
 
 using namespace CUI;
 using Steps = std::vector<ShortcutTransformation>;
-
-template <typename Read>
-auto readWith(Read read, const QByteArray &document)
-{
-    QBuffer buffer;
-    buffer.setData(document);
-    buffer.open(QIODevice::ReadOnly);
-    return read(buffer);
-}
 
 // A description is only for people to read: what XML cannot hold of it is left out.
 bool isSameButForDescription(const ShortcutTransformation &written,
@@ -38,12 +30,12 @@ void checkRoundTrip(const Steps &steps, HotkeySetFile::LockAttribute lockAttribu
                   "steps are written unless one is unwritable");
     if (!isWritten)
         return;
-    const HotkeySetFile::Content content = readWith(HotkeySetFile::read, buffer.data());
+    const HotkeySetFile::Content content = HotkeySetFile::read(XmlDocument(buffer.data()));
     Fuzz::require(!content.error, "what is written can be read");
     Fuzz::require(std::equal(steps.begin(), steps.end(), content.steps.begin(), content.steps.end(),
                              isSameButForDescription),
                   "the same steps are read again");
-    const auto metadata = readWith(HotkeySetFile::readMetadata, buffer.data());
+    const auto metadata = HotkeySetFile::readMetadata(XmlDocument(buffer.data()));
     Fuzz::require(metadata && !metadata->locked && metadata->description.isEmpty(),
                   "a written set is unlocked and has no description");
 }
@@ -52,12 +44,12 @@ void checkRoundTrip(const Steps &steps, HotkeySetFile::LockAttribute lockAttribu
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const QByteArray document = Fuzz::bytesOf(data, size);
-    const HotkeySetFile::Content content = readWith(HotkeySetFile::read, document);
+    const XmlDocument document(Fuzz::bytesOf(data, size));
+    const HotkeySetFile::Content content = HotkeySetFile::read(document);
     for (const ShortcutTransformation &step : content.steps)
         Fuzz::require(!step.actionId().isEmpty() && !step.shortcut().isEmpty(),
                       "a step has an action and a hotkey");
-    const auto metadata = readWith(HotkeySetFile::readMetadata, document);
+    const auto metadata = HotkeySetFile::readMetadata(document);
     Fuzz::require(metadata || content.error, "a set that can be read has metadata");
     checkRoundTrip(content.steps, HotkeySetFile::LockAttribute::Omit);
     checkRoundTrip(content.steps, HotkeySetFile::LockAttribute::WriteUnlocked);

@@ -1,5 +1,6 @@
 #include "HotkeySetCommands.h"
 
+#include "HotkeyFileInput.h"
 #include "HotkeySetDialogs.h"
 #include "HotkeySetFile.h"
 #include "InstalledPaths.h"
@@ -435,11 +436,8 @@ bool HotkeySetCommands::isLockedFile(const QString &path)
 {
     if (Preset::isFileReadOnly(path))
         return true;
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return false;
-    const auto metadata =
-            HotkeySetFile::readMetadata(file); // of a file of any kind, without a word
+    // Also of a file that follows no schema, which is then replaced without a message in the log.
+    const auto metadata = HotkeySetFile::readMetadata(HotkeyFileInput(path).document());
     return metadata && metadata->locked;
 }
 

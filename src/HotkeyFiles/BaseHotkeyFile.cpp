@@ -1,5 +1,6 @@
 #include "BaseHotkeyFile.h"
 
+#include "XmlDocument.h"
 #include "XmlReading.h"
 
 #include <QIODevice>
@@ -35,11 +36,11 @@ void readEntry(const QXmlStreamAttributes &attributes, std::vector<Entry> &entri
 
 } // namespace
 
-Content read(QIODevice &device)
+Content read(const XmlDocument &document)
 {
     Content content;
-    QXmlStreamReader reader(&device);
-    if (XmlReading::readRoot(reader)) {
+    QXmlStreamReader reader(document.utf8());
+    if (reader.readNextStartElement()) {
         if (reader.name() != rootName)
             reader.raiseError(XmlReading::wrongRootText(QStringLiteral("hsxb")));
         while (!reader.hasError() && reader.readNextStartElement()) {

@@ -13,6 +13,8 @@ class QIODevice;
 
 namespace CUI {
 
+class XmlDocument;
+
 /// Codec of the base hotkey file (suffix hsxb): the full hotkey map of one layer.
 namespace BaseHotkeyFile {
 
@@ -28,9 +30,9 @@ struct Content {
     std::optional<XmlError> error;
 };
 
-/// Reads from the open @p device. Entries without hotkey or without action name are left out, and
+/// Reads all of @p document. Entries without hotkey or without action name are left out, and
 /// elements of other names skipped.
-Content read(QIODevice &device);
+Content read(const XmlDocument &document);
 
 /// Writes to the open @p device, in the order of @p entries. False when the device failed or an
 /// entry holds a character that XML does not allow (see firstUnwritable()).

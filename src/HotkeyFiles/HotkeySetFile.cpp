@@ -1,5 +1,6 @@
 #include "HotkeySetFile.h"
 
+#include "XmlDocument.h"
 #include "XmlReading.h"
 
 #include <QIODevice>
@@ -47,11 +48,11 @@ void writeStep(QXmlStreamWriter &writer, const ShortcutTransformation &step)
 
 } // namespace
 
-Content read(QIODevice &device)
+Content read(const XmlDocument &document)
 {
     Content content;
-    QXmlStreamReader reader(&device);
-    if (XmlReading::readRoot(reader)) {
+    QXmlStreamReader reader(document.utf8());
+    if (reader.readNextStartElement()) {
         if (reader.name() != rootName)
             reader.raiseError(XmlReading::wrongRootText(QStringLiteral("hsx")));
         while (!reader.hasError() && reader.readNextStartElement()) {
@@ -63,20 +64,10 @@ Content read(QIODevice &device)
     return content;
 }
 
-std::optional<Metadata> readMetadata(QIODevice &device)
+std::optional<Metadata> readMetadata(const XmlDocument &document)
 {
-    // Given the device itself, the reader would fetch a large block of steps ahead.
-    constexpr qint64 pieceSize = 1024;
-    QXmlStreamReader reader;
-    bool isAtRoot = false;
-    do {
-        const QByteArray piece = device.read(pieceSize);
-        if (piece.isEmpty())
-            return {};
-        reader.addData(piece);
-        isAtRoot = XmlReading::readRoot(reader);
-    } while (!isAtRoot && reader.error() == QXmlStreamReader::PrematureEndOfDocumentError);
-    if (!isAtRoot || reader.name() != rootName)
+    QXmlStreamReader reader(document.utf8());
+    if (!reader.readNextStartElement() || reader.name() != rootName)
         return {};
     const QXmlStreamAttributes attributes = reader.attributes();
     const QStringRef locked = attributes.value(lockedAttribute);

@@ -13,6 +13,8 @@ class QIODevice;
 
 namespace CUI {
 
+class XmlDocument;
+
 /// Codec of the hotkey set file (suffix hsx): the steps that turn the base configuration into a
 /// user's set.
 namespace HotkeySetFile {
@@ -31,12 +33,12 @@ struct Metadata {
 /// What write() puts on the root.
 enum class LockAttribute { Omit, WriteUnlocked };
 
-/// Reads from the open @p device. Steps without hotkey or without action name are left out, and
+/// Reads all of @p document. Steps without hotkey or without action name are left out, and
 /// elements of other names skipped.
-Content read(QIODevice &device);
+Content read(const XmlDocument &document);
 
 /// Reads no further than the root's start tag; nothing when the document has none or another root.
-CUI_CORE_EXPORT std::optional<Metadata> readMetadata(QIODevice &device);
+CUI_CORE_EXPORT std::optional<Metadata> readMetadata(const XmlDocument &document);
 
 /// Writes to the open @p device. False when the device failed or a step holds a character that XML
 /// does not allow (see firstUnwritable()).

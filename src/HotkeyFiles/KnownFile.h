@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 namespace CUI {
 
 /// What a file held at some moment. Two of them are equal when the path and the contents are:
@@ -14,8 +16,8 @@ public:
     KnownFile() = default;
     /// Reads the file. Everything that is no regular file, or cannot be read, counts as missing.
     explicit KnownFile(const QString &path);
-    /// The file once these contents are written to it.
-    KnownFile(const QString &path, const QByteArray &contents);
+    /// The file with these contents, or a missing one.
+    KnownFile(const QString &path, const std::optional<QByteArray> &contents);
 
     const QString &path() const { return m_path; }
     bool isMissing() const { return m_digest.isNull(); }

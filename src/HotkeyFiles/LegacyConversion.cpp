@@ -1,6 +1,6 @@
 #include "LegacyConversion.h"
 
-#include "FileValidation.h"
+#include "HotkeyFileInput.h"
 #include "HotkeySetFile.h"
 #include "IPathManager.h"
 #include "LazyLog.h"
@@ -9,8 +9,6 @@
 #include "SaveFileCommit.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QSaveFile>
 
 #include <algorithm>
@@ -37,15 +35,14 @@ QString legacyDefaultFile()
 // Appends a step of that kind for each accelerator of the file.
 bool readLegacyShortcuts(const QString &path, Steps &records, ShortcutTransformation::Kind kind)
 {
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+    HotkeyFileInput file(path);
+    if (!file.isOpen())
         return fail(QStringLiteral("Could not open the legacy hotkey configuration '%1'."), path);
-    if (!FileValidation::validateLegacyKbdx(path))
+    if (!file.validate(HotkeyFileInput::Kind::Legacy))
         return fail(QStringLiteral("'%1' is not a valid kbdx file."), path);
-    const auto steps = LegacyKeyboardFile::read(file, kind);
+    const auto steps = LegacyKeyboardFile::read(file.document(), kind);
     if (!steps)
-        return fail(QStringLiteral("Could not parse legacy hotkey configuration '%1'."),
-                    file.fileName());
+        return fail(QStringLiteral("Could not parse legacy hotkey configuration '%1'."), path);
     records.insert(records.end(), steps->begin(), steps->end());
     return true;
 }
@@ -82,11 +79,11 @@ bool convert(const QString &in, const QString &out)
     dropUnwritable(steps);
 
     QSaveFile file(out);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)
+    if (!file.open(QIODevice::WriteOnly)
         || !HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::Omit)
         || !commitWhole(file))
         return fail(QStringLiteral("Could not open '%1' to store the results of conversion."), out);
-    return FileValidation::validateShortcutsTransforms(out);
+    return HotkeyFileInput(out).validate(HotkeyFileInput::Kind::Set);
 }
 
 } // namespace CUI::LegacyConversion

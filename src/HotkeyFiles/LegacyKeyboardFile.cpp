@@ -1,9 +1,8 @@
 #include "LegacyKeyboardFile.h"
 
 #include "KeyNames.h"
-#include "XmlReading.h"
+#include "XmlDocument.h"
 
-#include <QIODevice>
 #include <QXmlStreamReader>
 
 namespace CUI::LegacyKeyboardFile {
@@ -35,11 +34,11 @@ void readShortcut(const QXmlStreamAttributes &attributes, ShortcutTransformation
 
 } // namespace
 
-std::optional<std::vector<ShortcutTransformation>> read(QIODevice &device,
+std::optional<std::vector<ShortcutTransformation>> read(const XmlDocument &document,
                                                         ShortcutTransformation::Kind kind)
 {
-    QXmlStreamReader reader(&device);
-    if (!XmlReading::readRoot(reader) || reader.name() != rootName)
+    QXmlStreamReader reader(document.utf8());
+    if (!reader.readNextStartElement() || reader.name() != rootName)
         return {};
     std::vector<ShortcutTransformation> steps;
     while (reader.readNextStartElement()) {

@@ -1,11 +1,10 @@
 #include "PresetMetadata.h"
 
 #include "FileAttributes.h"
-#include "FileValidation.h"
+#include "HotkeyFileInput.h"
 #include "HotkeySetFile.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 
@@ -46,13 +45,10 @@ bool peek(const QString &path, bool &locked, QString &name)
 {
     if (path.isEmpty())
         return false;
-    QFile file(path);
-    // Opening a pipe would wait for somebody to write to it.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+    HotkeyFileInput file(path);
+    if (!file.validate(HotkeyFileInput::Kind::Set))
         return false;
-    if (!FileValidation::validateShortcutsTransforms(path))
-        return false;
-    if (const auto metadata = HotkeySetFile::readMetadata(file)) {
+    if (const auto metadata = HotkeySetFile::readMetadata(file.document())) {
         const QString &description = metadata->description;
         name = description.isEmpty() ? QFileInfo(path).completeBaseName() : description;
         locked = metadata->locked;
@@ -66,7 +62,8 @@ bool peekCached(const QString &path, bool &locked, QString &name)
 
     const qint64 now = nowInNanoseconds();
     const auto file = FileAttributes::stampOf(path);
-    const auto schema = FileAttributes::stampOf(FileValidation::transformationSchemaPath());
+    const auto schema =
+            FileAttributes::stampOf(HotkeyFileInput::schemaPath(HotkeyFileInput::Kind::Set));
     const auto known = cache.constFind(path);
     if (known != cache.constEnd() && file && schema && *file == known->file
         && *schema == known->schema) {

@@ -21,22 +21,6 @@ int xmlCharacterLength(const QString &text, int i)
 
 } // namespace
 
-bool readRoot(QXmlStreamReader &reader)
-{
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::DTD:
-            reader.raiseError(QStringLiteral("A document type declaration is not allowed."));
-            return false;
-        case QXmlStreamReader::StartElement:
-            return true;
-        default:
-            break;
-        }
-    }
-    return false;
-}
-
 QString wrongRootText(const QString &suffix)
 {
     return QLatin1String("This is not a valid ") + suffix + QLatin1String(" file.");

@@ -9,11 +9,6 @@ class QXmlStreamReader;
 
 namespace CUI::XmlReading {
 
-/// Moves @p reader to the root's start tag; false when there is none. Raises an error on a document
-/// type declaration: no hotkey file has one, and the entities it declares can make a small file
-/// expand to more than the memory holds.
-bool readRoot(QXmlStreamReader &reader);
-
 /// The text "This is not a valid <suffix> file." with which a wrong root element is reported.
 QString wrongRootText(const QString &suffix);
 

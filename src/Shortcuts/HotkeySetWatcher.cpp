@@ -1,9 +1,8 @@
 #include "HotkeySetWatcher.h"
 
-#include "FileValidation.h"
+#include "HotkeyFileInput.h"
 #include "KnownFile.h"
 #include "QvelShortcutManager.h"
-#include "SchemaCheck.h"
 
 #include <QFileInfo>
 #include <QFileSystemWatcher>
@@ -76,8 +75,7 @@ Steps inOrderOf(const Steps &first, Steps steps)
 /// Asked without a word in the log: a file that is half written is no error.
 bool isHotkeySet(const QString &path)
 {
-    return SchemaCheck::check(path, FileValidation::transformationSchemaPath()).verdict
-           == SchemaCheck::Verdict::Valid;
+    return HotkeyFileInput(path).check(HotkeyFileInput::Kind::Set).isValid;
 }
 
 } // namespace

@@ -17,6 +17,7 @@
 
 namespace CUI {
 
+class HotkeyFileInput;
 class KnownFile;
 class RecordedSteps;
 class ShortcutOwnerIndex;
@@ -316,7 +317,8 @@ private:
     void checkModifiedAndEmit();
     void announceModified(bool isModified);
     void dropTransforms();
-    Loaded loadTransforms(const QString &path);
+    Loaded loadSet(HotkeyFileInput &file);
+    Loaded loadTransforms(HotkeyFileInput &file);
     bool recordStep(const ShortcutTransformation &step);
     void applyStep(const ShortcutTransformation &step);
     void loadBaseFiles();

@@ -1,8 +1,8 @@
 #include "QvelShortcutManager.h"
 
 #include "BaseHotkeyFile.h"
-#include "FileValidation.h"
 #include "HotkeyChangeRecord.h"
+#include "HotkeyFileInput.h"
 #include "HotkeySetFile.h"
 #include "ICuiActionManager.h"
 #include "IPathManager.h"
@@ -16,7 +16,6 @@
 
 #include <QBuffer>
 #include <QDebug>
-#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSaveFile>
@@ -63,13 +62,6 @@ void logUnwritable(const QString &path, const QString &shortcut, const ActionIde
 
 const QString setReadingFailed =
         QStringLiteral("Loading of transform file failed!\n%2 Line: %3 Column: %4 Offset: %5");
-
-/// False when the file does not follow its schema or cannot be opened.
-bool openSet(QFile &file)
-{
-    return FileValidation::validateShortcutsTransforms(file.fileName())
-           && file.open(QIODevice::ReadOnly | QIODevice::Text);
-}
 
 /// Writes a hotkey set file as a whole and returns what it holds then, or nothing.
 std::optional<QByteArray> writeSteps(const QString &path,
@@ -120,7 +112,7 @@ void QvelShortcutManager::saveShortcuts(const QString &path) const
     if (path.isEmpty())
         return;
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+    if (!file.open(QIODevice::WriteOnly))
         return;
     const auto entries = fileEntries(baseShortcuts);
     if (const BaseHotkeyFile::Entry *entry = BaseHotkeyFile::firstUnwritable(entries)) {
@@ -141,15 +133,13 @@ bool QvelShortcutManager::loadShortcuts(const QString &callersPath)
     const QString path = callersPath; // slots may change the caller's
     logLazily(QvelMessageLog::Info,
               [&] { return QStringLiteral("Loading hotkey configuration file '%1'.").arg(path); });
-    if (!validateShortcuts(path))
-        return false;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    HotkeyFileInput file(path);
+    if (!file.validate(HotkeyFileInput::Kind::Base))
         return false;
 
     const ChangeScope scope(this, HotkeyChange::Kind::Reset);
     clearShortcuts();
-    const BaseHotkeyFile::Content content = BaseHotkeyFile::read(file);
+    const BaseHotkeyFile::Content content = BaseHotkeyFile::read(file.document());
     for (const BaseHotkeyFile::Entry &entry : content.entries) {
         for (const QString &shortcut : entry.shortcuts)
             assignShortcutInternal(entry.actionId, shortcut, false, true);
@@ -196,26 +186,30 @@ bool QvelShortcutManager::loadShortcutTransforms(const QString &callersPath)
     if (callersPath.isEmpty())
         return false;
     const QString path = callersPath; // slots may change the caller's
-    // Read first: what is written to the file meanwhile must not pass for loaded.
-    const KnownFile file(path);
-    const Loaded loaded = loadTransforms(path);
-    if (loaded == Loaded::Nothing)
-        return false;
-    *setFile = file;
-    Q_EMIT shortcutTransformsLoaded(path);
-    return loaded == Loaded::Everything;
+    HotkeyFileInput file(path);
+    return loadSet(file) == Loaded::Everything;
 }
 
-QvelShortcutManager::Loaded QvelShortcutManager::loadTransforms(const QString &path)
+QvelShortcutManager::Loaded QvelShortcutManager::loadSet(HotkeyFileInput &file)
 {
+    const Loaded loaded = loadTransforms(file);
+    if (loaded != Loaded::Nothing) {
+        *setFile = file.known();
+        Q_EMIT shortcutTransformsLoaded(file.path());
+    }
+    return loaded;
+}
+
+QvelShortcutManager::Loaded QvelShortcutManager::loadTransforms(HotkeyFileInput &file)
+{
+    const QString &path = file.path();
     logLazily(QvelMessageLog::Info,
               [&] { return QStringLiteral("Loading shortcut transform file '%1'.").arg(path); });
-    QFile file(path);
-    if (!openSet(file))
+    if (!file.validate(HotkeyFileInput::Kind::Set))
         return Loaded::Nothing;
     const ChangeScope scope(this, HotkeyChange::Kind::Reset);
     clearTransforms();
-    const HotkeySetFile::Content content = HotkeySetFile::read(file);
+    const HotkeySetFile::Content content = HotkeySetFile::read(file.document());
     for (const ShortcutTransformation &step : content.steps) {
         if (!recordStep(step))
             continue;
@@ -253,10 +247,10 @@ void QvelShortcutManager::applyStep(const ShortcutTransformation &step)
 bool QvelShortcutManager::readTransforms(const QString &path,
                                          std::vector<ShortcutTransformation> &steps)
 {
-    QFile file(path);
-    if (!openSet(file))
+    HotkeyFileInput file(path);
+    if (!file.validate(HotkeyFileInput::Kind::Set))
         return false;
-    const HotkeySetFile::Content content = HotkeySetFile::read(file);
+    const HotkeySetFile::Content content = HotkeySetFile::read(file.document());
     steps = content.steps;
     if (content.error)
         logReadingFailed(setReadingFailed, path, *content.error);
@@ -328,8 +322,12 @@ void QvelShortcutManager::loadShortcutConfiguration(const QString &callersPath)
     clearShortcuts();
     loadBaseFiles();
     assignDefaultAccelerators();
-    *setFile = path.isEmpty() ? KnownFile() : KnownFile(path);
-    loadShortcutTransforms(path);
+    *setFile = KnownFile();
+    if (!path.isEmpty()) {
+        HotkeyFileInput file(path);
+        *setFile = file.known();
+        loadSet(file);
+    }
     if (IPathManager *paths = IPathManager::get())
         paths->setCurrentConfigurationFile(ConfigType::HotkeySet, path);
     Q_EMIT shortcutConfigurationLoaded(path);
@@ -354,7 +352,8 @@ void QvelShortcutManager::loadBaseFiles()
         if (suffix.compare(QLatin1String("hsxb"), Qt::CaseInsensitive) == 0) {
             loadShortcuts(file);
         } else if (suffix.compare(QLatin1String("hsx"), Qt::CaseInsensitive) == 0) {
-            loadTransforms(file);
+            HotkeyFileInput set(file);
+            loadTransforms(set);
             applyTransforms();
         }
     }
@@ -375,22 +374,22 @@ void QvelShortcutManager::assignDefaultAccelerators()
 
 bool QvelShortcutManager::validateXml(const QString &file, const QString &schemaFile)
 {
-    return FileValidation::validateXml(file, schemaFile);
+    return !file.isEmpty() && !schemaFile.isEmpty() && HotkeyFileInput(file).validate(schemaFile);
 }
 
 bool QvelShortcutManager::validateShortcuts(const QString &path)
 {
-    return FileValidation::validateShortcuts(path);
+    return HotkeyFileInput(path).validate(HotkeyFileInput::Kind::Base);
 }
 
 bool QvelShortcutManager::validateShortcutsTransforms(const QString &path)
 {
-    return FileValidation::validateShortcutsTransforms(path);
+    return HotkeyFileInput(path).validate(HotkeyFileInput::Kind::Set);
 }
 
 bool QvelShortcutManager::validateLegacyKbdx(const QString &path)
 {
-    return FileValidation::validateLegacyKbdx(path);
+    return HotkeyFileInput(path).validate(HotkeyFileInput::Kind::Legacy);
 }
 
 } // namespace CUI
