@@ -4,7 +4,8 @@
 #include "HotkeySetDialogs.h"
 #include "HotkeySetFile.h"
 #include "InstalledPaths.h"
-#include "LastLogLine.h"
+#include "LoadResult.h"
+#include "PresetMetadata.h"
 #include "QvelPresetComboBox.h"
 #include "QvelShortcutManager.h"
 
@@ -186,15 +187,13 @@ void HotkeySetCommands::loadChosen(const Preset &chosen)
         m_comboBox->setCurrentPreset(m_currentPreset);
         return;
     }
-    const LastLogLine lastLine;
-    bool locked = false;
-    QString name;
-    if (!QvelShortcutManager::peekPresetMetadata(chosen.path(), locked, name)) {
+    HotkeyFileInput file(chosen.path());
+    if (!file.validate(HotkeyFileInput::Kind::Set)) {
         selectSilently(m_currentPreset);
-        HotkeySetDialogs::showLoadFailure(m_editor, chosen.path(), lastLine.text());
+        HotkeySetDialogs::showLoadFailure(m_editor, chosen.path(), file.fault());
         return;
     }
-    m_manager->loadShortcutConfiguration(chosen.path());
+    m_manager->loadConfiguration(chosen.path(), &file);
 }
 
 void HotkeySetCommands::leaveComboBox()
@@ -212,15 +211,17 @@ void HotkeySetCommands::followLoadedConfiguration(const QString &path)
     unmarkModified(true);
 }
 
-bool HotkeySetCommands::loadPresetTransformations(const QString &path, Preset &preset) const
+LoadResult HotkeySetCommands::loadPresetTransformations(const QString &path, Preset &preset) const
 {
+    HotkeyFileInput file(path);
     bool locked = false;
     QString name;
-    if (!QvelShortcutManager::peekPresetMetadata(path, locked, name)
-        || !m_manager->loadShortcutTransforms(path))
-        return false;
-    preset = presetOf(path, locked, name);
-    return true;
+    if (!PresetMetadata::peek(file, locked, name))
+        return {LoadResult::Extent::Nothing, file.fault()};
+    const LoadResult loaded = m_manager->loadSet(file);
+    if (loaded.isComplete())
+        preset = presetOf(path, locked, name);
+    return loaded;
 }
 
 void HotkeySetCommands::loadFromFile()
@@ -228,10 +229,10 @@ void HotkeySetCommands::loadFromFile()
     const QString path = HotkeySetDialogs::askLoadSetPath(m_editor);
     if (path.isEmpty() || !maybeSaveChanges())
         return;
-    const LastLogLine lastLine;
     Preset preset;
-    if (!loadPresetTransformations(QDir::cleanPath(path), preset)) {
-        HotkeySetDialogs::showLoadFailure(m_editor, path, lastLine.text());
+    const LoadResult loaded = loadPresetTransformations(QDir::cleanPath(path), preset);
+    if (!loaded.isComplete()) {
+        HotkeySetDialogs::showLoadFailure(m_editor, path, loaded.fault);
         return;
     }
     adoptLoadedSet(preset);
@@ -335,14 +336,15 @@ bool HotkeySetCommands::maybeDiscardChanges()
 void HotkeySetCommands::discardChanges()
 {
     Preset preset = m_currentPreset;
-    const LastLogLine lastLine;
     if (!preset.isValid()) {
         m_manager->clearTransforms(); // no file holds anything to return to
-    } else if (!loadPresetTransformations(preset.path(), preset)) {
-        // What is in memory may be all that is left of the user's set.
-        HotkeySetDialogs::showLoadFailure(m_editor, preset.path(), lastLine.text());
-        return;
     } else {
+        const LoadResult loaded = loadPresetTransformations(preset.path(), preset);
+        if (!loaded.isComplete()) {
+            // What is in memory may be all that is left of the user's set.
+            HotkeySetDialogs::showLoadFailure(m_editor, preset.path(), loaded.fault);
+            return;
+        }
         m_currentPreset = preset;
         selectSilently(preset);
         const QSignalBlocker blocker(m_comboBox);
@@ -392,10 +394,8 @@ bool HotkeySetCommands::saveChanges(Preset &preset)
         return false;
     }
     unmarkModified(true);
-    bool locked = false;
-    QString name;
-    if (QvelShortcutManager::peekPresetMetadata(path, locked, name))
-        preset = presetOf(path, locked, name);
+    // The store writes neither a lock nor a name.
+    preset = presetOf(path, false, QFileInfo(path).completeBaseName());
     selectSilently(preset);
     {
         const QSignalBlocker blocker(m_comboBox);

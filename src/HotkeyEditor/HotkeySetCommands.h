@@ -11,6 +11,7 @@ namespace CUI {
 
 class QvelPresetComboBox;
 class QvelShortcutManager;
+struct LoadResult;
 
 /// The commands of the hotkey editor that act on whole sets, with their questions. Keeps which set
 /// is loaded and whether it has unsaved changes. May be deleted, with the editor, while one of its
@@ -70,7 +71,7 @@ Q_SIGNALS:
     void legacyHotkeySetConverted(bool success);
 
 private:
-    bool loadPresetTransformations(const QString &path, Preset &preset) const;
+    LoadResult loadPresetTransformations(const QString &path, Preset &preset) const;
     bool fileNotFoundDoUserPrompt(const Preset &preset, bool *result, Preset *replacement);
     Preset resetToDefault(const Preset &missing);
     bool saveChanges(Preset &preset);

@@ -1,9 +1,8 @@
 #include "EditorText.h"
-#include "FileAttributes.h"
 #include "HotkeySetCommands.h"
 #include "HotkeySetDialogs.h"
 #include "InstalledPaths.h"
-#include "LastLogLine.h"
+#include "LoadResult.h"
 #include "QvelCustomizeDialogHelper.h"
 #include "QvelMessageLog.h"
 #include "QvelShortcutManager.h"
@@ -83,14 +82,14 @@ void HotkeySetCommands::failConversion(const QString &path)
 // write them into the file of another set.
 void HotkeySetCommands::loadConverted(const QString &path)
 {
-    const LastLogLine lastLine;
     Preset preset;
-    if (loadPresetTransformations(QDir::cleanPath(path), preset)) {
+    const LoadResult loaded = loadPresetTransformations(QDir::cleanPath(path), preset);
+    if (loaded.isComplete()) {
         adoptLoadedSet(preset);
         return;
     }
     refreshList();
-    HotkeySetDialogs::showLoadFailure(m_editor, path, lastLine.text());
+    HotkeySetDialogs::showLoadFailure(m_editor, path, loaded.fault);
 }
 
 // Single files
@@ -134,11 +133,7 @@ void HotkeySetCommands::saveShortcuts()
         HotkeySetDialogs::showLockedWarning(m_editor);
         return;
     }
-    // The store does not say whether it has written the file.
-    const auto before = FileAttributes::stampOf(path);
-    m_manager->saveShortcuts(path);
-    const auto after = FileAttributes::stampOf(path);
-    if (!after || before == after)
+    if (!m_manager->saveBase(path))
         HotkeySetDialogs::showSaveFailure(m_editor, path);
 }
 
@@ -149,18 +144,13 @@ void HotkeySetCommands::loadShortcuts()
             HotkeySetDialogs::shortcutFileFilter(), QString());
     if (path.isEmpty() || !maybeSaveChanges())
         return;
-    const LastLogLine lastLine;
-    bool isCleared = false;
-    const auto clearing = connect(m_manager, &QvelShortcutManager::shortcutsCleared, this,
-                                  [&isCleared] { isCleared = true; });
-    const bool isLoaded = m_manager->loadShortcuts(path);
-    disconnect(clearing);
-    if (isLoaded || isCleared) // the steps of the set are gone, and must not go from its file, too
+    const LoadResult loaded = m_manager->loadBase(path);
+    if (loaded.isReplaced()) // the steps of the set are gone, and must not go from its file, too
         leaveSet();
     Q_EMIT rowsInvalidated();
     Q_EMIT selectedActionInvalidated();
-    if (!isLoaded)
-        HotkeySetDialogs::showLoadFailure(m_editor, path, lastLine.text());
+    if (!loaded.isComplete())
+        HotkeySetDialogs::showLoadFailure(m_editor, path, loaded.fault);
 }
 
 } // namespace CUI

@@ -34,7 +34,11 @@ SchemaCheck::Result HotkeyFileInput::check(const QString &schemaPath) const
 
 bool HotkeyFileInput::validate(const QString &schemaPath)
 {
+    if (m_passedSchema == schemaPath)
+        return true;
     const SchemaCheck::Result result = check(schemaPath);
+    if (result.isValid)
+        m_passedSchema = schemaPath;
     if (result.error) {
         m_fault = QStringLiteral("Validation of '%1' \nagainst schema definition '%2' failed!\n%3 "
                                  "Line: %4 Column: %5")

@@ -33,7 +33,8 @@ public:
     /// Checks the file against the schema of that kind.
     SchemaCheck::Result check(Kind kind) const;
     /// True when the file follows the schema. Logs as an error what is wrong with the file or the
-    /// schema, but not that one of them cannot be opened.
+    /// schema, but not that one of them cannot be opened. A file that has passed is not checked
+    /// again.
     bool validate(const QString &schemaPath);
     /// The same with the schema of that kind.
     bool validate(Kind kind);
@@ -47,6 +48,7 @@ private:
 
     QString m_path;
     QString m_fault;
+    QString m_passedSchema;
     std::optional<QByteArray> m_bytes;
     XmlDocument m_document;
 };

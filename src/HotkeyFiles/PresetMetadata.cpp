@@ -46,11 +46,16 @@ bool peek(const QString &path, bool &locked, QString &name)
     if (path.isEmpty())
         return false;
     HotkeyFileInput file(path);
+    return peek(file, locked, name);
+}
+
+bool peek(HotkeyFileInput &file, bool &locked, QString &name)
+{
     if (!file.validate(HotkeyFileInput::Kind::Set))
         return false;
     if (const auto metadata = HotkeySetFile::readMetadata(file.document())) {
         const QString &description = metadata->description;
-        name = description.isEmpty() ? QFileInfo(path).completeBaseName() : description;
+        name = description.isEmpty() ? QFileInfo(file.path()).completeBaseName() : description;
         locked = metadata->locked;
     }
     return true;

@@ -1,14 +1,21 @@
 #pragma once
 
+#include "UiCustomizationsExport.h"
+
 class QString;
 
 namespace CUI {
+
+class HotkeyFileInput;
 
 /// What a hotkey set file says about itself.
 namespace PresetMetadata {
 
 /// QvelShortcutManager::peekPresetMetadata(), which documents it.
 bool peek(const QString &path, bool &locked, QString &name);
+
+/// The same for a file that has been read.
+CUI_CORE_EXPORT bool peek(HotkeyFileInput &file, bool &locked, QString &name);
 
 /// The same result, from memory when neither the file nor the schema has changed since it was
 /// found. Files that fail are looked at anew every time, so that the log names them every time.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "UiCustomizationsExport.h"
-
 #include <QString>
 #include <QtGlobal>
 
@@ -35,7 +33,7 @@ inline bool operator==(const Stamp &a, const Stamp &b)
 }
 
 /// The stamp of the regular file at @p path, links followed; nothing when there is none.
-CUI_CORE_EXPORT std::optional<Stamp> stampOf(const QString &path);
+std::optional<Stamp> stampOf(const QString &path);
 
 } // namespace FileAttributes
 } // namespace CUI

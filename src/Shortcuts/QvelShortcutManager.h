@@ -19,6 +19,7 @@ namespace CUI {
 
 class HotkeyFileInput;
 class KnownFile;
+struct LoadResult;
 class RecordedSteps;
 class ShortcutOwnerIndex;
 
@@ -305,7 +306,7 @@ private:
     struct ChangeRecord;
     class ChangeScope;
     using ShortcutMap = std::unordered_map<ActionIdentifier, QShortcutsList>;
-    enum class Loaded { Nothing, Part, Everything };
+    friend class HotkeySetCommands; // shows the user what became of a file
 
     bool assignShortcutInternal(const ActionIdentifier &identifier, const QString &shortcut,
                                 bool userModification, bool checkRoom);
@@ -317,8 +318,11 @@ private:
     void checkModifiedAndEmit();
     void announceModified(bool isModified);
     void dropTransforms();
-    Loaded loadSet(HotkeyFileInput &file);
-    Loaded loadTransforms(HotkeyFileInput &file);
+    bool saveBase(const QString &path) const;
+    LoadResult loadBase(const QString &path);
+    LoadResult loadSet(HotkeyFileInput &file);
+    LoadResult loadTransforms(HotkeyFileInput &file);
+    void loadConfiguration(const QString &path, HotkeyFileInput *set);
     bool recordStep(const ShortcutTransformation &step);
     void applyStep(const ShortcutTransformation &step);
     void loadBaseFiles();

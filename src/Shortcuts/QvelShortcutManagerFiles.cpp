@@ -9,6 +9,7 @@
 #include "KnownFile.h"
 #include "LazyLog.h"
 #include "LegacyConversion.h"
+#include "LoadResult.h"
 #include "PresetMetadata.h"
 #include "RecordedSteps.h"
 #include "SaveFileCommit.h"
@@ -46,9 +47,12 @@ QString readingFailed(QString text, const QString &path, const XmlError &error)
     return text;
 }
 
-void logReadingFailed(const QString &text, const QString &path, const XmlError &error)
+// Logs and returns that only a part was loaded.
+LoadResult partOf(const QString &text, const QString &path, const XmlError &error)
 {
-    logLazily(QvelMessageLog::Error, [&] { return readingFailed(text, path, error); });
+    const QString fault = readingFailed(text, path, error);
+    QvelMessageLog::getInstance().logErrorMessage(fault);
+    return {LoadResult::Extent::Part, fault};
 }
 
 void logUnwritable(const QString &path, const QString &shortcut, const ActionIdentifier &actionId)
@@ -109,33 +113,44 @@ std::vector<BaseHotkeyFile::Entry> fileEntries(
 
 void QvelShortcutManager::saveShortcuts(const QString &path) const
 {
+    saveBase(path);
+}
+
+bool QvelShortcutManager::saveBase(const QString &path) const
+{
     if (path.isEmpty())
-        return;
+        return false;
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return;
+        return false;
     const auto entries = fileEntries(baseShortcuts);
     if (const BaseHotkeyFile::Entry *entry = BaseHotkeyFile::firstUnwritable(entries)) {
         logUnwritable(path, entry->shortcuts.join(QLatin1String(", ")), entry->actionId);
-        return;
+        return false;
     }
     if (!BaseHotkeyFile::write(file, entries) || !commitWhole(file))
-        return;
+        return false;
     if (!validateShortcuts(path))
         qDebug("Generated shortcuts file doesn't conform to the schema defined in "
                "HotkeyMappingSchema.xsd.");
+    return true;
 }
 
-bool QvelShortcutManager::loadShortcuts(const QString &callersPath)
+bool QvelShortcutManager::loadShortcuts(const QString &path)
+{
+    return loadBase(path).isComplete();
+}
+
+LoadResult QvelShortcutManager::loadBase(const QString &callersPath)
 {
     if (callersPath.isEmpty())
-        return false;
+        return {};
     const QString path = callersPath; // slots may change the caller's
     logLazily(QvelMessageLog::Info,
               [&] { return QStringLiteral("Loading hotkey configuration file '%1'.").arg(path); });
     HotkeyFileInput file(path);
     if (!file.validate(HotkeyFileInput::Kind::Base))
-        return false;
+        return {LoadResult::Extent::Nothing, file.fault()};
 
     const ChangeScope scope(this, HotkeyChange::Kind::Reset);
     clearShortcuts();
@@ -145,14 +160,13 @@ bool QvelShortcutManager::loadShortcuts(const QString &callersPath)
             assignShortcutInternal(entry.actionId, shortcut, false, true);
     }
     if (content.error) {
-        logReadingFailed(QStringLiteral("Loading of hotkey configuration file failed!\n%2 "
-                                        "Line: %3 Column: %4 Offset: %5"),
-                         path, *content.error);
-        return false;
+        return partOf(QStringLiteral("Loading of hotkey configuration file failed!\n%2 "
+                                     "Line: %3 Column: %4 Offset: %5"),
+                      path, *content.error);
     }
     logLazily(QvelMessageLog::Info,
               [] { return QStringLiteral("Hotkey configuration file loaded successfully."); });
-    return true;
+    return {LoadResult::Extent::Everything, {}};
 }
 
 // Hotkey set files
@@ -187,26 +201,26 @@ bool QvelShortcutManager::loadShortcutTransforms(const QString &callersPath)
         return false;
     const QString path = callersPath; // slots may change the caller's
     HotkeyFileInput file(path);
-    return loadSet(file) == Loaded::Everything;
+    return loadSet(file).isComplete();
 }
 
-QvelShortcutManager::Loaded QvelShortcutManager::loadSet(HotkeyFileInput &file)
+LoadResult QvelShortcutManager::loadSet(HotkeyFileInput &file)
 {
-    const Loaded loaded = loadTransforms(file);
-    if (loaded != Loaded::Nothing) {
+    const LoadResult loaded = loadTransforms(file);
+    if (loaded.isReplaced()) {
         *setFile = file.known();
         Q_EMIT shortcutTransformsLoaded(file.path());
     }
     return loaded;
 }
 
-QvelShortcutManager::Loaded QvelShortcutManager::loadTransforms(HotkeyFileInput &file)
+LoadResult QvelShortcutManager::loadTransforms(HotkeyFileInput &file)
 {
     const QString &path = file.path();
     logLazily(QvelMessageLog::Info,
               [&] { return QStringLiteral("Loading shortcut transform file '%1'.").arg(path); });
     if (!file.validate(HotkeyFileInput::Kind::Set))
-        return Loaded::Nothing;
+        return {LoadResult::Extent::Nothing, file.fault()};
     const ChangeScope scope(this, HotkeyChange::Kind::Reset);
     clearTransforms();
     const HotkeySetFile::Content content = HotkeySetFile::read(file.document());
@@ -216,13 +230,11 @@ QvelShortcutManager::Loaded QvelShortcutManager::loadTransforms(HotkeyFileInput 
         markStepsSaved();
         applyStep(step);
     }
-    if (content.error) {
-        logReadingFailed(setReadingFailed, path, *content.error);
-        return Loaded::Part;
-    }
+    if (content.error)
+        return partOf(setReadingFailed, path, *content.error);
     logLazily(QvelMessageLog::Info,
               [] { return QStringLiteral("Transform file loaded successfully."); });
-    return Loaded::Everything;
+    return {LoadResult::Extent::Everything, {}};
 }
 
 bool QvelShortcutManager::recordStep(const ShortcutTransformation &step)
@@ -253,7 +265,7 @@ bool QvelShortcutManager::readTransforms(const QString &path,
     const HotkeySetFile::Content content = HotkeySetFile::read(file.document());
     steps = content.steps;
     if (content.error)
-        logReadingFailed(setReadingFailed, path, *content.error);
+        partOf(setReadingFailed, path, *content.error);
     return !content.error;
 }
 
@@ -314,7 +326,13 @@ bool QvelShortcutManager::convertLegacyShortcuts(const QString &in, const QStrin
 
 // The whole configuration
 
-void QvelShortcutManager::loadShortcutConfiguration(const QString &callersPath)
+void QvelShortcutManager::loadShortcutConfiguration(const QString &path)
+{
+    loadConfiguration(path, nullptr);
+}
+
+// With the set's file, if it has been read already.
+void QvelShortcutManager::loadConfiguration(const QString &callersPath, HotkeyFileInput *set)
 {
     const QString path = callersPath; // slots and the path manager may change the caller's
     const ChangeScope scope(this, HotkeyChange::Kind::Reset);
@@ -324,7 +342,8 @@ void QvelShortcutManager::loadShortcutConfiguration(const QString &callersPath)
     assignDefaultAccelerators();
     *setFile = KnownFile();
     if (!path.isEmpty()) {
-        HotkeyFileInput file(path);
+        std::optional<HotkeyFileInput> opened;
+        HotkeyFileInput &file = set != nullptr ? *set : opened.emplace(path);
         *setFile = file.known();
         loadSet(file);
     }
