@@ -1,6 +1,7 @@
 #include "BrowsingRival.h"
 #include "BrowsingStage.h"
 #include "Configuration.h"
+#include "QvelHotkeyHistory.h"
 #include "QvelShortcutsWidget.h"
 #include "Rows.h"
 #include "VelAction.h"
@@ -246,6 +247,39 @@ void compareSwitching(benchmark::State &state, Workload &workload)
             [&] { return busySecondsOf([&] { bare.loadShortcutConfiguration(paths.at(next)); }); });
 }
 
+/// The last of a thousand unsaved edits, undone and redone under an open editor.
+void compareUndoing(benchmark::State &state, Workload &workload)
+{
+    constexpr int editCount = 1000;
+    QvelShortcutManager store;
+    workload.load(workload.configuration(usualSize, Steps::Separate), store);
+    QvelHotkeyHistory history(&store);
+    for (int i = 0; i < editCount; ++i)
+        store.unassignShortcut(actionAt(i), firstHotkeyOf(i), nameOf(i));
+    QvelActionItemModel model(&store);
+    QvelShortcutsWidget editor(&model, &store);
+    editor.show();
+    const auto before = store.getShortcuts();
+    history.undo();
+    history.redo();
+    if (isWrong(state, history.count() == editCount && store.getShortcuts() == before
+                               ? QString()
+                               : QStringLiteral("the edit is not redone")))
+        return;
+    compare(
+            state, 1.0,
+            [&] {
+                const double seconds = Bench::secondsOf([&] {
+                    history.undo();
+                    QApplication::processEvents();
+                });
+                history.redo();
+                QApplication::processEvents();
+                return seconds;
+            },
+            [] { return frame; });
+}
+
 } // namespace
 
 void addEditorRows(Workload &workload, Stages &stages)
@@ -269,6 +303,8 @@ void addEditorRows(Workload &workload, Stages &stages)
     addDeed("editor/selecting", "editor/selecting, 10k actions", Deed::Select);
     addDeed("editor/assigning", "editor/assigning, 10k actions", Deed::Assign);
     addDeed("editor/removing", "editor/removing, 10k actions", Deed::Remove);
+    addRow("editor/undoing, 10k actions", "a frame of 60 Hz", 15,
+           [&](benchmark::State &state) { compareUndoing(state, workload); });
     addRow("editor/switching sets", "loading without an editor", 6,
            [&](benchmark::State &state) { compareSwitching(state, workload); });
 }
