@@ -2,6 +2,7 @@
 #include "Recorder.h"
 #include "Text.h"
 
+#include <UiCustomizations/HotkeyDefaults.h>
 #include <UiCustomizations/HotkeyEditGroup.h>
 #include <UiCustomizations/HotkeyEdits.h>
 #include <UiCustomizations/QvelHotkeyHistory.h>
@@ -237,6 +238,20 @@ void TestHotkeyHistory::equalsSnapshots()
         }
     }
     QVERIFY(restored > 1000);
+
+    using CUI::HotkeyDefaults;
+    const PlainMap before = plain(store.getShortcuts());
+    const int index = history.index();
+    HotkeyDefaults::apply(store, HotkeyDefaults::planForAll(store), HotkeyDefaults::Held::Take);
+    QCOMPARE(history.index(), index + 1);
+    const auto sorted = [](PlainMap map) {
+        for (auto &entry : map)
+            entry.second.sort();
+        return map;
+    };
+    QCOMPARE(sorted(plain(store.getShortcuts())), sorted(plain(store.getBaseShortcuts())));
+    history.undo();
+    QCOMPARE(plain(store.getShortcuts()), before);
 }
 
 void TestHotkeyHistory::outlivesSlotsThatEdit()
