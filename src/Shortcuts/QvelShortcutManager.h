@@ -274,7 +274,8 @@ Q_SIGNALS:
     void shortcutUnassigned(const CUI::ActionIdentifier &identifier, const QString &shortcut);
     /// A step was recorded, in an edit or while loading a hotkey set. The last signal of an edit.
     void shortcutTransformAdded(const CUI::ShortcutTransformation &transformation);
-    /// The steps were dropped; listeners read the store anew. Not emitted when there were none.
+    /// The steps were dropped, or replaced by other ones, also in undoing and redoing; listeners
+    /// read the store again. Not emitted when there were none to drop.
     void shortcutTransformsCleared();
     /// The steps have been cancelled against each other; emitted even when none was.
     void shortcutTransformsCollapsed();
