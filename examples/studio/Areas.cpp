@@ -2,9 +2,14 @@
 
 namespace Studio::Areas {
 
-QStringList everywhere()
+QStringList everywhere(const Host::HostCatalogue &catalogue)
 {
-    return {QStringLiteral("File and Edit"), QStringLiteral("Windows and Workspaces")};
+    QStringList names;
+    for (const Host::HostCatalogue::Context &context : catalogue.contexts) {
+        if (context.everywhere)
+            names.append(context.name);
+    }
+    return names;
 }
 
 QStringList docks()
@@ -19,7 +24,7 @@ QStringList modes(const Host::HostCatalogue &catalogue)
 {
     QStringList names;
     for (const Host::HostCatalogue::Context &context : catalogue.contexts) {
-        if (!everywhere().contains(context.name) && !docks().contains(context.name))
+        if (!context.everywhere && !docks().contains(context.name))
             names.append(context.name);
     }
     return names;

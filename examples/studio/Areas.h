@@ -12,7 +12,7 @@ namespace Studio {
 namespace Areas {
 
 /// The contexts that count in every area, behind the area's own.
-QStringList everywhere();
+QStringList everywhere(const Host::HostCatalogue &catalogue);
 /// The contexts of the docks.
 QStringList docks();
 /// The names of the contexts that are modes of the viewport, in the order of the catalogue.

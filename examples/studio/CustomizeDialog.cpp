@@ -5,6 +5,7 @@
 
 #include <UiCustomizations/IPathManager.h>
 #include <UiCustomizations/QvelActionItemModel.h>
+#include <UiCustomizations/QvelConflictsWidget.h>
 #include <UiCustomizations/QvelKeyboardWidget.h>
 #include <UiCustomizations/QvelMenusWidget.h>
 #include <UiCustomizations/QvelMessageLog.h>
@@ -48,6 +49,7 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
       m_menuModel(new CUI::QvelActionItemModel(nullptr, this)),
       m_editor(new CUI::QvelShortcutsWidget(m_model, &manager)),
       m_keyboard(new CUI::QvelKeyboardWidget(&manager)),
+      m_conflicts(new CUI::QvelConflictsWidget(&manager)),
       m_log(new CUI::QvelMessageLogWidget),
       m_tabs(new QTabWidget)
 {
@@ -57,6 +59,7 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     resize(1040, 680);
     m_tabs->addTab(m_editor, tr("&Hotkeys"));
     addKeyboard();
+    addConflicts();
     // Sorting the list of actions sorts its model, which the hotkeys' rows would follow.
     m_tabs->addTab(makeMenusView(m_menuModel), tr("&Menus"));
     m_tabs->addTab(m_log, tr("&Log"));
@@ -110,6 +113,19 @@ void CustomizeDialog::setContextsEverywhere(const std::vector<unsigned long> &co
     options.isEverywhereOrdered = true;
     options.systems = CUI::HotkeyReservation::systemsHere();
     m_keyboard->setOptions(options);
+    options.typeableKeys = CUI::QvelConflictsWidget::typeableKeys();
+    m_conflicts->setAuditOptions(options);
+}
+
+void CustomizeDialog::addConflicts()
+{
+    m_tabs->addTab(m_conflicts, tr("&Conflicts"));
+    connect(m_conflicts, &CUI::QvelConflictsWidget::actionSelected, this,
+            [this](const CUI::ActionIdentifier &action) {
+                m_editor->setCurrentAction(action, false);
+            });
+    connect(m_conflicts, &CUI::QvelConflictsWidget::actionActivated, m_tabs,
+            [this] { m_tabs->setCurrentWidget(m_editor); });
 }
 
 void CustomizeDialog::setLoggedText(const QString &lines)

@@ -9,6 +9,7 @@ class QTabWidget;
 namespace CUI {
 class HotkeySetWatcher;
 class QvelActionItemModel;
+class QvelConflictsWidget;
 class QvelKeyboardWidget;
 class QvelMessageLogWidget;
 class QvelShortcutManager;
@@ -30,6 +31,7 @@ public:
 
     CUI::QvelShortcutsWidget *editor() const { return m_editor; }
     QTabWidget *tabs() const { return m_tabs; }
+    CUI::QvelConflictsWidget *conflicts() const { return m_conflicts; }
     CUI::QvelMessageLogWidget *log() const { return m_log; }
     /// The contexts that count wherever the focus is, in the order in which they are asked.
     void setContextsEverywhere(const std::vector<unsigned long> &contexts);
@@ -46,6 +48,7 @@ protected:
 
 private:
     void addKeyboard();
+    void addConflicts();
     void showTitle();
 
     const CUI::QvelShortcutManager &m_manager;
@@ -53,6 +56,7 @@ private:
     CUI::QvelActionItemModel *m_menuModel;
     CUI::QvelShortcutsWidget *m_editor;
     CUI::QvelKeyboardWidget *m_keyboard;
+    CUI::QvelConflictsWidget *m_conflicts;
     CUI::QvelMessageLogWidget *m_log;
     QTabWidget *m_tabs;
 };

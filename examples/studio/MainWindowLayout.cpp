@@ -227,7 +227,7 @@ void MainWindow::makeAreas()
             m_binder->setContextWidgets(context, widgets);
         order << QString::fromLatin1(name);
     }
-    m_binder->setContextOrder(contextsNamed(order + Areas::everywhere()));
+    m_binder->setContextOrder(contextsNamed(order + Areas::everywhere(m_host.catalogue())));
     connect(m_areas, &AreaFocus::currentChanged, this, &MainWindow::markCurrentArea);
     markCurrentArea(m_viewportFrame);
 }

@@ -80,10 +80,12 @@ void build(MainWindow &window)
     const Catalogue &catalogue = window.host().catalogue();
     HotkeyActions &entries = window.hotkeyActions();
     std::vector<const Catalogue::Context *> modes;
+    const std::vector<unsigned long> everywhere = catalogue.everywhere();
+    const auto first = everywhere.empty() ? std::nullopt : std::make_optional(everywhere.front());
     for (const Catalogue::Context &context : catalogue.contexts) {
         if (Areas::modes(catalogue).contains(context.name)) {
             modes.push_back(&context);
-        } else if (Areas::everywhere().first() == context.name) {
+        } else if (context.id == first) {
             for (const auto &category : categories(catalogue, context.id))
                 fill(window.menuBar()->addMenu(escaped(category.first)), category.second, entries);
         } else {

@@ -7,12 +7,15 @@
 #include "MainWindow.h"
 #include "StudioSession.h"
 
+#include <UiCustomizations/QvelConflictsWidget.h>
 #include <UiCustomizations/QvelKeyboardWidget.h>
+#include <UiCustomizations/QvelShortcutManager.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTreeView>
 
 #include <algorithm>
 #include <iterator>
@@ -23,14 +26,14 @@ namespace {
 
 const QSize pictureSize(1228, 719);
 
-void showEditor(CustomizeDialog *dialog)
+void showEditor(CustomizeDialog *dialog, CUI::QvelShortcutManager & /*store*/)
 {
     const EditorHands hands(dialog);
     hands.select({2, QStringLiteral("duplicateObject")});
     hands.press(Qt::Key_J, Qt::NoModifier);
 }
 
-void showKeyboard(CustomizeDialog *dialog)
+void showKeyboard(CustomizeDialog *dialog, CUI::QvelShortcutManager & /*store*/)
 {
     auto *keyboard = dialog->findChild<CUI::QvelKeyboardWidget *>();
     dialog->tabs()->setCurrentWidget(keyboard);
@@ -38,8 +41,20 @@ void showKeyboard(CustomizeDialog *dialog)
     keyboard->setFocus();
 }
 
-bool writeOne(const QString &hostDirectory, bool dark, void (*show)(CustomizeDialog *dialog),
-              const QString &file, QString &error)
+void showConflicts(CustomizeDialog *dialog, CUI::QvelShortcutManager &store)
+{
+    store.assignShortcut({12, QStringLiteral("insertKeyframe")}, QStringLiteral("Ctrl+S"),
+                         QString());
+    store.assignShortcut({2, QStringLiteral("frameAll")}, QStringLiteral("Alt+F4"), QString());
+    dialog->tabs()->setCurrentWidget(dialog->conflicts());
+    Gestures::wait(100);
+    auto *table = dialog->conflicts()->findChild<QTreeView *>(QStringLiteral("conflictsTable"));
+    table->setCurrentIndex(table->model()->index(0, 0));
+}
+
+bool writeOne(const QString &hostDirectory, bool dark,
+              void (*show)(CustomizeDialog *, CUI::QvelShortcutManager &), const QString &file,
+              QString &error)
 {
     Appearance::apply(dark);
     const QTemporaryDir user;
@@ -53,9 +68,10 @@ bool writeOne(const QString &hostDirectory, bool dark, void (*show)(CustomizeDia
     dialog->resize(pictureSize);
     QApplication::setActiveWindow(dialog);
     Gestures::wait(100);
-    show(dialog);
+    show(dialog, session.window().store());
     Gestures::wait(100);
     const QPixmap picture = dialog->grab();
+    session.window().store().clearTransforms(); // or it would be asked about them
     dialog->close();
     Gestures::wait();
     if (picture.save(file))
@@ -76,10 +92,12 @@ bool write(const QString &hostDirectory, const QString &folder, QString &error)
     const struct {
         const char *name;
         bool dark;
-        void (*show)(CustomizeDialog *dialog);
+        void (*show)(CustomizeDialog *, CUI::QvelShortcutManager &);
     } pictures[] = {
             {"editor-light.png", false, showEditor},
             {"editor-dark.png", true, showEditor},
+            {"conflicts-light.png", false, showConflicts},
+            {"conflicts-dark.png", true, showConflicts},
             {"keyboard.png", false, showKeyboard},
     };
     return std::all_of(std::begin(pictures), std::end(pictures), [&](const auto &picture) {

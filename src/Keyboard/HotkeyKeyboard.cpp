@@ -357,7 +357,7 @@ QString HotkeyKeyboard::describe(const Key &key) const
             lines.append(QStringLiteral("%1 (%2)").arg(action->name(), context->name()));
     }
     if (const auto finding = d->sharingOf(key))
-        lines.append(HotkeyAuditTexts::textOf(*finding, *registry, 0));
+        lines.append(HotkeyAuditTexts::textOf(*finding, 0));
     for (const HotkeyReservation &reservation : d->reservationsOf(key)) {
         lines.append(QStringLiteral("%1: %2").arg(HotkeyReservation::nameOf(reservation.system),
                                                   reservation.use));

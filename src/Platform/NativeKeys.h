@@ -2,6 +2,8 @@
 
 #include "KeyboardLayout.h"
 
+#include <optional>
+
 class QKeyEvent;
 
 namespace CUI {
@@ -19,9 +21,15 @@ int virtualKeyOf(const QKeyEvent &event);
 /// not known. @p virtualKey is that key's, one for which VirtualKeys::isPunctuation() is true.
 int unshiftedCharacterOf(int virtualKey, const QKeyEvent &event);
 
-/// What the keys type in the layout that is active now; the US layout where the system does not
-/// tell, as under Wayland without an X server beside it.
-KeyboardLayout layoutInUse();
+/// What the keys type in the layout that is active now; nothing where the system does not tell, as
+/// under Wayland without an X server beside it.
+std::optional<KeyboardLayout> knownLayout();
+
+/// The same, and the US layout where the system does not tell.
+inline KeyboardLayout layoutInUse()
+{
+    return knownLayout().value_or(KeyboardLayout());
+}
 
 } // namespace NativeKeys
 } // namespace CUI

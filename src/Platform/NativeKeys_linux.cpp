@@ -282,7 +282,7 @@ int unshiftedCharacterOf(int virtualKey, const QKeyEvent &event)
     return static_cast<int>(unshiftedCharacter(event, layoutAt(event).get()));
 }
 
-KeyboardLayout layoutInUse()
+std::optional<KeyboardLayout> knownLayout()
 {
     // Beside a Wayland compositor, an X server has the compositor's layout.
     const Owned<xkb_state> state = deliversKeySymbols() ? xServer().state() : nullptr;

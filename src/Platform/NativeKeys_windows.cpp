@@ -54,7 +54,7 @@ int unshiftedCharacterOf(int virtualKey, const QKeyEvent & /*event*/)
                             & characterMask);
 }
 
-KeyboardLayout layoutInUse()
+std::optional<KeyboardLayout> knownLayout()
 {
     const HKL layout = GetKeyboardLayout(0);
     return KeyboardLayout([layout](int code) {

@@ -134,6 +134,7 @@ private:
     QKeySequence keyOf(const QString &hotkey);
     void collect(const VelAction &action, const QShortcutsList &hotkeys);
     HeldKeys effectiveKeys() const;
+    const HeldKey *holderOf(const QKeySequence &key, unsigned long contextId) const;
     void compareContexts(const HeldKeys &holders);
 
     const QvelShortcutManager &m_manager;
@@ -165,8 +166,7 @@ std::vector<Finding> Run::takeFindings()
     for (Finding &finding : m_findings) {
         const auto hotkeys = m_manager.getShortcuts().find(finding.holders.front().action);
         finding.text = HotkeyAuditTexts::textOf(
-                finding, m_registry,
-                hotkeys == m_manager.getShortcuts().end() ? 0 : hotkeys->second.size());
+                finding, hotkeys == m_manager.getShortcuts().end() ? 0 : hotkeys->second.size());
     }
     return std::move(m_findings);
 }
@@ -321,6 +321,16 @@ void Run::findSimilar(Kind kind, int modifier)
 
 // Actions without hotkeys
 
+const HeldKey *Run::holderOf(const QKeySequence &key, unsigned long contextId) const
+{
+    const ActionIdentifier holder = m_claims.holderOf(contextId, key);
+    const auto [first, last] = std::equal_range(m_keys.begin(), m_keys.end(), key, KeyOrder());
+    const auto held = std::find_if(first, last, [&](const HeldKey &candidate) {
+        return candidate.holder.action == holder && candidate.holder.contextId == contextId;
+    });
+    return held == last ? nullptr : &*held;
+}
+
 void Run::findLost()
 {
     std::vector<const VelAction *> losers;
@@ -337,9 +347,8 @@ void Run::findLost()
         const QString base = m_manager.getBaseShortcutsFromActionId(loser->identifier());
         std::vector<Holder> holders{{loser->identifier(), loser->contextId(), base}};
         for (const QString &hotkey : JoinedHotkeys::split(base)) {
-            const ActionIdentifier taker = m_claims.holderOf(loser->contextId(), keyOf(hotkey));
-            if (!taker.isEmpty())
-                holders.push_back({taker, loser->contextId(), hotkey});
+            if (const HeldKey *held = holderOf(keyOf(hotkey), loser->contextId()))
+                holders.push_back(held->holder);
         }
         add(Kind::HotkeyLost, base, std::move(holders));
     }

@@ -1,10 +1,9 @@
 #include "HotkeyAuditTexts.h"
 
 #include "HotkeyFinding.h"
-#include "ICuiActionManager.h"
 #include "JoinedHotkeys.h"
-#include "KeyNames.h"
 #include "QShortcutsList.h"
+#include "ShownNames.h"
 
 #include <QCoreApplication>
 
@@ -21,10 +20,7 @@ class Words
     Q_DECLARE_TR_FUNCTIONS(CUI::HotkeyAudit)
 
 public:
-    Words(const HotkeyFinding &finding, const ICuiActionManager &registry)
-        : m_finding(finding), m_registry(registry)
-    {
-    }
+    explicit Words(const HotkeyFinding &finding) : m_finding(finding) { }
 
     QString text(int hotkeyCount) const;
 
@@ -35,42 +31,21 @@ private:
     QString reserved() const;
     QString lost() const;
 
-    QString nameOf(const ActionIdentifier &action) const;
-    QString nameOf(unsigned long contextId) const;
-    QString nameWithContext(const HotkeyFinding::Holder &holder) const;
     template <typename Predicate>
     QString holdersThat(Predicate predicate) const;
     QString allHolders() const;
 
     const HotkeyFinding &m_finding;
-    const ICuiActionManager &m_registry;
 };
 
-QString nativeText(const QString &hotkey)
+QString shown(const HotkeyFinding::Holder &holder)
 {
-    return KeyNames::keyOf(hotkey).toString(QKeySequence::NativeText);
+    return ShownNames::ofActionIn(holder.action, holder.contextId);
 }
 
 QString joined(const QStringList &texts)
 {
     return texts.join(QLatin1String(", "));
-}
-
-QString Words::nameOf(const ActionIdentifier &action) const
-{
-    const VelAction *known = m_registry.getAction(action);
-    return known != nullptr ? known->name() : action.toString();
-}
-
-QString Words::nameOf(unsigned long contextId) const
-{
-    const VelActionContext *known = m_registry.getActionContext(contextId);
-    return known != nullptr ? known->name() : QString::number(contextId);
-}
-
-QString Words::nameWithContext(const HotkeyFinding::Holder &holder) const
-{
-    return QStringLiteral("%1 (%2)").arg(nameOf(holder.action), nameOf(holder.contextId));
 }
 
 template <typename Predicate>
@@ -79,8 +54,9 @@ QString Words::holdersThat(Predicate predicate) const
     QStringList names;
     for (const HotkeyFinding::Holder &holder : m_finding.holders) {
         if (predicate(holder))
-            names << nameWithContext(holder);
+            names << shown(holder);
     }
+    names.removeDuplicates();
     return joined(names);
 }
 
@@ -94,11 +70,11 @@ QString Words::heldTwice() const
     QStringList losers;
     for (const HotkeyFinding::Holder &holder : m_finding.holders) {
         if (holder.action != m_finding.outcomes.front().action)
-            losers << nameOf(holder.action);
+            losers << ShownNames::ofAction(holder.action);
     }
     return tr("In %1 this key runs %2, never %3.")
-            .arg(nameOf(m_finding.holders.front().contextId),
-                 nameOf(m_finding.outcomes.front().action), joined(losers));
+            .arg(ShownNames::ofContext(m_finding.holders.front().contextId),
+                 ShownNames::ofAction(m_finding.outcomes.front().action), joined(losers));
 }
 
 QString Words::elsewhere(const ActionIdentifier &acting, bool isAnywhereElse) const
@@ -117,20 +93,20 @@ QString Words::elsewhere(const ActionIdentifier &acting, bool isAnywhereElse) co
     if (acting.isEmpty())
         return tr("This key runs nothing, since these count everywhere equally: %1.").arg(beaten);
     if (beaten.isEmpty())
-        return tr("Elsewhere it runs %1.").arg(nameOf(acting));
+        return tr("Elsewhere it runs %1.").arg(ShownNames::ofAction(acting));
     return (isAnywhereElse ? tr("Elsewhere it runs %1, never %2.")
                            : tr("Everywhere this key runs %1, never %2."))
-            .arg(nameOf(acting), beaten);
+            .arg(ShownNames::ofAction(acting), beaten);
 }
 
 QString Words::acrossContexts() const
 {
     QStringList sentences;
     for (const HotkeyFinding::Outcome &outcome : m_finding.outcomes) {
-        sentences << (outcome.contextId
-                              ? tr("In %1 this key runs %2.")
-                                        .arg(nameOf(*outcome.contextId), nameOf(outcome.action))
-                              : elsewhere(outcome.action, !sentences.isEmpty()));
+        sentences << (outcome.contextId ? tr("In %1 this key runs %2.")
+                                                  .arg(ShownNames::ofContext(*outcome.contextId),
+                                                       ShownNames::ofAction(outcome.action))
+                                        : elsewhere(outcome.action, !sentences.isEmpty()));
     }
     return sentences.join(QLatin1Char(' '));
 }
@@ -147,10 +123,10 @@ QString Words::reserved() const
         if (!uses.contains(use))
             uses << use;
     }
-    return (m_finding.kind == Kind::TakenByTextFields
-                    ? tr("While text is typed, this key does not run %1: %2.")
-                    : tr("A desktop may take this key before it runs %1: %2."))
-            .arg(allHolders(), joined(uses));
+    return m_finding.kind == Kind::TakenByTextFields
+                   ? tr("While text is typed, this key does not run %1: %2.")
+                             .arg(allHolders(), joined(uses))
+                   : tr("%1 may take this key before it runs %2.").arg(joined(uses), allHolders());
 }
 
 QString Words::lost() const
@@ -160,13 +136,11 @@ QString Words::lost() const
             [&loser](const HotkeyFinding::Holder &holder) { return holder.action != loser; });
     QStringList hotkeys;
     for (const QString &hotkey : JoinedHotkeys::split(m_finding.hotkey))
-        hotkeys << nativeText(hotkey);
+        hotkeys << ShownNames::ofHotkey(hotkey);
     return takers.isEmpty()
-                   ? tr("%1 has lost %2.")
-                             .arg(nameWithContext(m_finding.holders.front()), joined(hotkeys))
+                   ? tr("%1 has lost %2.").arg(shown(m_finding.holders.front()), joined(hotkeys))
                    : tr("%1 has lost %2, and %3 has it now.")
-                             .arg(nameWithContext(m_finding.holders.front()), joined(hotkeys),
-                                  takers);
+                             .arg(shown(m_finding.holders.front()), joined(hotkeys), takers);
 }
 
 QString Words::text(int hotkeyCount) const
@@ -189,10 +163,10 @@ QString Words::text(int hotkeyCount) const
     case Kind::DiffersByKeypad:
     case Kind::DiffersByShift:
         return tr("%1 runs %2, %3 runs %4.")
-                .arg(nativeText(m_finding.holders.front().hotkey),
-                     nameOf(m_finding.holders.front().action),
-                     nativeText(m_finding.holders.back().hotkey),
-                     nameOf(m_finding.holders.back().action));
+                .arg(ShownNames::ofHotkey(m_finding.holders.front().hotkey),
+                     ShownNames::ofAction(m_finding.holders.front().action),
+                     ShownNames::ofHotkey(m_finding.holders.back().hotkey),
+                     ShownNames::ofAction(m_finding.holders.back().action));
     case Kind::NearLimit:
         break;
     }
@@ -203,9 +177,9 @@ QString Words::text(int hotkeyCount) const
 
 } // namespace
 
-QString textOf(const HotkeyFinding &finding, const ICuiActionManager &registry, int hotkeyCount)
+QString textOf(const HotkeyFinding &finding, int hotkeyCount)
 {
-    return Words(finding, registry).text(hotkeyCount);
+    return Words(finding).text(hotkeyCount);
 }
 
 } // namespace CUI::HotkeyAuditTexts

@@ -119,8 +119,8 @@ void HotkeyAuditTest::finds_data()
         "not-typeable Num+A: 4-play",
         "The keyboard in use has no such key, so that none runs cut (Mesh).");
     row("3-cut Alt+Tab", "taken-by-desktop Alt+Tab: 3-cut",
-        "A desktop may take this key before it runs cut (Mesh): Windows (Switch windows), "
-        "KDE (Switch windows), GNOME (Switch windows).");
+        "Windows (Switch windows), KDE (Switch windows), GNOME (Switch windows) may take this "
+        "key before it runs cut (Mesh).");
     row("3-cut Ctrl+X|4-cut Ctrl+X", "taken-by-text-fields Ctrl+X: 3-cut 4-cut",
         "While text is typed, this key does not run cut (Mesh), cut (Timeline): Cut, copy or "
         "paste.");

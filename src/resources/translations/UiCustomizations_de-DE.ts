@@ -47,10 +47,6 @@
         <translation>Während der Texteingabe löst diese Taste %1 nicht aus: %2.</translation>
     </message>
     <message>
-        <source>A desktop may take this key before it runs %1: %2.</source>
-        <translation>Ein Desktop kann diese Taste abfangen, bevor sie %1 auslöst: %2.</translation>
-    </message>
-    <message>
         <source>%1 has lost %2.</source>
         <translation>%1 hat %2 verloren.</translation>
     </message>
@@ -73,6 +69,10 @@
     <message>
         <source>%1 holds %2 of %3 hotkeys.</source>
         <translation>%1 hat %2 von höchstens %3 Tastenkürzeln.</translation>
+    </message>
+    <message>
+        <source>%1 may take this key before it runs %2.</source>
+        <translation>%1 kann diese Taste abfangen, bevor sie %2 auslöst.</translation>
     </message>
 </context>
 <context>
@@ -319,6 +319,109 @@
     <message>
         <source>Successfully removed</source>
         <translation>Erfolgreich entfernt</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelConflictsWidget</name>
+    <message>
+        <source>Severity</source>
+        <translation>Schweregrad</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Befund</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Aktionen</translation>
+    </message>
+    <message>
+        <source>What happens today</source>
+        <translation>Was heute geschieht</translation>
+    </message>
+    <message>
+        <source>Findings: %1 of %2</source>
+        <translation>Befunde: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>Nur Fehler</translation>
+    </message>
+    <message>
+        <source>Errors and warnings</source>
+        <translation>Fehler und Warnungen</translation>
+    </message>
+    <message>
+        <source>All findings</source>
+        <translation>Alle Befunde</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Alle Arten</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>Suchbegriff eingeben...</translation>
+    </message>
+    <message>
+        <source>Search the findings</source>
+        <translation>Befunde durchsuchen</translation>
+    </message>
+    <message>
+        <source>Least severe finding</source>
+        <translation>Geringster Schweregrad</translation>
+    </message>
+    <message>
+        <source>Kind of finding</source>
+        <translation>Art des Befunds</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>What settles the finding</source>
+        <translation>Was den Befund behebt</translation>
+    </message>
+    <message>
+        <source>Select a finding to see what settles it.</source>
+        <translation>Wählen Sie einen Befund aus, um zu sehen, was ihn behebt.</translation>
+    </message>
+    <message>
+        <source>Give back</source>
+        <translation>Zurückgeben</translation>
+    </message>
+    <message>
+        <source>Give to this action</source>
+        <translation>Dieser Aktion geben</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Choose another</source>
+        <translation>Anderes wählen</translation>
+    </message>
+    <message>
+        <source>Remove %1 from %2</source>
+        <translation>%1 von %2 entfernen</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2</source>
+        <translation>%1 an %2 geben</translation>
+    </message>
+    <message>
+        <source>Give %1 back to %2</source>
+        <translation>%1 an %2 zurückgeben</translation>
+    </message>
+    <message>
+        <source>Change %1 to %2 for %3</source>
+        <translation>%1 in %2 ändern für %3</translation>
     </message>
 </context>
 <context>

@@ -47,10 +47,6 @@
         <translation>Pendant la saisie de texte, cette touche n’exécute pas %1 : %2.</translation>
     </message>
     <message>
-        <source>A desktop may take this key before it runs %1: %2.</source>
-        <translation>Un bureau peut prendre cette touche avant qu’elle n’exécute %1 : %2.</translation>
-    </message>
-    <message>
         <source>%1 has lost %2.</source>
         <translation>%1 a perdu %2.</translation>
     </message>
@@ -73,6 +69,10 @@
     <message>
         <source>%1 holds %2 of %3 hotkeys.</source>
         <translation>%1 a %2 raccourcis sur %3.</translation>
+    </message>
+    <message>
+        <source>%1 may take this key before it runs %2.</source>
+        <translation>%1 peut prendre cette touche avant qu’elle n’exécute %2.</translation>
     </message>
 </context>
 <context>
@@ -319,6 +319,109 @@
     <message>
         <source>Successfully removed</source>
         <translation>Raccourci supprimé</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelConflictsWidget</name>
+    <message>
+        <source>Severity</source>
+        <translation>Gravité</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Constat</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>Raccourci</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>What happens today</source>
+        <translation>Ce qui se passe aujourd’hui</translation>
+    </message>
+    <message>
+        <source>Findings: %1 of %2</source>
+        <translation>Constats : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>Erreurs uniquement</translation>
+    </message>
+    <message>
+        <source>Errors and warnings</source>
+        <translation>Erreurs et avertissements</translation>
+    </message>
+    <message>
+        <source>All findings</source>
+        <translation>Tous les constats</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Tous les types</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>Saisir une recherche...</translation>
+    </message>
+    <message>
+        <source>Search the findings</source>
+        <translation>Rechercher dans les constats</translation>
+    </message>
+    <message>
+        <source>Least severe finding</source>
+        <translation>Gravité minimale</translation>
+    </message>
+    <message>
+        <source>Kind of finding</source>
+        <translation>Type de constat</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Constats</translation>
+    </message>
+    <message>
+        <source>What settles the finding</source>
+        <translation>Ce qui résout le constat</translation>
+    </message>
+    <message>
+        <source>Select a finding to see what settles it.</source>
+        <translation>Sélectionnez un constat pour voir ce qui le résout.</translation>
+    </message>
+    <message>
+        <source>Give back</source>
+        <translation>Rendre</translation>
+    </message>
+    <message>
+        <source>Give to this action</source>
+        <translation>Donner à cette action</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Choose another</source>
+        <translation>En choisir un autre</translation>
+    </message>
+    <message>
+        <source>Remove %1 from %2</source>
+        <translation>Supprimer %1 de %2</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2</source>
+        <translation>Donner %1 à %2</translation>
+    </message>
+    <message>
+        <source>Give %1 back to %2</source>
+        <translation>Rendre %1 à %2</translation>
+    </message>
+    <message>
+        <source>Change %1 to %2 for %3</source>
+        <translation>Remplacer %1 par %2 pour %3</translation>
     </message>
 </context>
 <context>

@@ -47,10 +47,6 @@
         <translation>テキストの入力中、このキーは %1 を実行しません: %2。</translation>
     </message>
     <message>
-        <source>A desktop may take this key before it runs %1: %2.</source>
-        <translation>このキーは、%1 を実行する前にデスクトップに使われることがあります: %2。</translation>
-    </message>
-    <message>
         <source>%1 has lost %2.</source>
         <translation>%1 は %2 を失いました。</translation>
     </message>
@@ -73,6 +69,10 @@
     <message>
         <source>%1 holds %2 of %3 hotkeys.</source>
         <translation>%1 のホットキーは %3 個中 %2 個です。</translation>
+    </message>
+    <message>
+        <source>%1 may take this key before it runs %2.</source>
+        <translation>このキーは、%2 を実行する前に %1 に使われることがあります。</translation>
     </message>
 </context>
 <context>
@@ -319,6 +319,109 @@
     <message>
         <source>Successfully removed</source>
         <translation>削除しました</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelConflictsWidget</name>
+    <message>
+        <source>Severity</source>
+        <translation>重大度</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>検出内容</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>ホットキー</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>アクション</translation>
+    </message>
+    <message>
+        <source>What happens today</source>
+        <translation>現在の動作</translation>
+    </message>
+    <message>
+        <source>Findings: %1 of %2</source>
+        <translation>検出結果: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>エラーのみ</translation>
+    </message>
+    <message>
+        <source>Errors and warnings</source>
+        <translation>エラーと警告</translation>
+    </message>
+    <message>
+        <source>All findings</source>
+        <translation>すべての検出結果</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>すべての種類</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>入力して検索...</translation>
+    </message>
+    <message>
+        <source>Search the findings</source>
+        <translation>検出結果を検索</translation>
+    </message>
+    <message>
+        <source>Least severe finding</source>
+        <translation>最低の重大度</translation>
+    </message>
+    <message>
+        <source>Kind of finding</source>
+        <translation>検出内容の種類</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>検出結果</translation>
+    </message>
+    <message>
+        <source>What settles the finding</source>
+        <translation>解決方法</translation>
+    </message>
+    <message>
+        <source>Select a finding to see what settles it.</source>
+        <translation>検出結果を選択すると、解決方法が表示されます。</translation>
+    </message>
+    <message>
+        <source>Give back</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Give to this action</source>
+        <translation>このアクションに割り当て</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Choose another</source>
+        <translation>別のものを選択</translation>
+    </message>
+    <message>
+        <source>Remove %1 from %2</source>
+        <translation>%1 を %2 から削除</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2</source>
+        <translation>%1 を %2 に割り当て</translation>
+    </message>
+    <message>
+        <source>Give %1 back to %2</source>
+        <translation>%1 を %2 に戻す</translation>
+    </message>
+    <message>
+        <source>Change %1 to %2 for %3</source>
+        <translation>%1 を %2 に変更: %3</translation>
     </message>
 </context>
 <context>

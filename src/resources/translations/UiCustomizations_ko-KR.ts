@@ -47,10 +47,6 @@
         <translation>텍스트를 입력하는 동안 이 키는 %1을(를) 실행하지 않습니다: %2.</translation>
     </message>
     <message>
-        <source>A desktop may take this key before it runs %1: %2.</source>
-        <translation>이 키는 %1을(를) 실행하기 전에 데스크톱에서 사용할 수 있습니다: %2.</translation>
-    </message>
-    <message>
         <source>%1 has lost %2.</source>
         <translation>%1에서 %2이(가) 제거되었습니다.</translation>
     </message>
@@ -73,6 +69,10 @@
     <message>
         <source>%1 holds %2 of %3 hotkeys.</source>
         <translation>%1의 단축키: %3개 중 %2개.</translation>
+    </message>
+    <message>
+        <source>%1 may take this key before it runs %2.</source>
+        <translation>%1에서 이 키가 %2을(를) 실행하기 전에 사용할 수 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -319,6 +319,109 @@
     <message>
         <source>Successfully removed</source>
         <translation>제거했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelConflictsWidget</name>
+    <message>
+        <source>Severity</source>
+        <translation>심각도</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>발견 항목</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>단축키</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>동작</translation>
+    </message>
+    <message>
+        <source>What happens today</source>
+        <translation>현재 동작</translation>
+    </message>
+    <message>
+        <source>Findings: %1 of %2</source>
+        <translation>발견 항목: %1/%2</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>오류만</translation>
+    </message>
+    <message>
+        <source>Errors and warnings</source>
+        <translation>오류 및 경고</translation>
+    </message>
+    <message>
+        <source>All findings</source>
+        <translation>모든 발견 항목</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>모든 종류</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>검색어 입력...</translation>
+    </message>
+    <message>
+        <source>Search the findings</source>
+        <translation>발견 항목 검색</translation>
+    </message>
+    <message>
+        <source>Least severe finding</source>
+        <translation>최소 심각도</translation>
+    </message>
+    <message>
+        <source>Kind of finding</source>
+        <translation>발견 항목의 종류</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>발견 항목</translation>
+    </message>
+    <message>
+        <source>What settles the finding</source>
+        <translation>해결 방법</translation>
+    </message>
+    <message>
+        <source>Select a finding to see what settles it.</source>
+        <translation>해결 방법을 보려면 발견 항목을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Give back</source>
+        <translation>되돌려 주기</translation>
+    </message>
+    <message>
+        <source>Give to this action</source>
+        <translation>이 동작에 할당</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
+    </message>
+    <message>
+        <source>Choose another</source>
+        <translation>다른 것 선택</translation>
+    </message>
+    <message>
+        <source>Remove %1 from %2</source>
+        <translation>%2에서 %1 제거</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2</source>
+        <translation>%1을(를) %2에 할당</translation>
+    </message>
+    <message>
+        <source>Give %1 back to %2</source>
+        <translation>%1을(를) %2에 되돌려 주기</translation>
+    </message>
+    <message>
+        <source>Change %1 to %2 for %3</source>
+        <translation>%1을(를) %2(으)로 변경: %3</translation>
     </message>
 </context>
 <context>

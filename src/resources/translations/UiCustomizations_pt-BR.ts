@@ -47,10 +47,6 @@
         <translation>Enquanto se digita texto, esta tecla não executa %1: %2.</translation>
     </message>
     <message>
-        <source>A desktop may take this key before it runs %1: %2.</source>
-        <translation>Uma área de trabalho pode usar esta tecla antes que ela execute %1: %2.</translation>
-    </message>
-    <message>
         <source>%1 has lost %2.</source>
         <translation>%1 perdeu %2.</translation>
     </message>
@@ -73,6 +69,10 @@
     <message>
         <source>%1 holds %2 of %3 hotkeys.</source>
         <translation>%1 tem %2 de %3 atalhos.</translation>
+    </message>
+    <message>
+        <source>%1 may take this key before it runs %2.</source>
+        <translation>%1 pode usar esta tecla antes que ela execute %2.</translation>
     </message>
 </context>
 <context>
@@ -319,6 +319,109 @@
     <message>
         <source>Successfully removed</source>
         <translation>Removido com sucesso</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelConflictsWidget</name>
+    <message>
+        <source>Severity</source>
+        <translation>Gravidade</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Constatação</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>Atalho</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Ações</translation>
+    </message>
+    <message>
+        <source>What happens today</source>
+        <translation>O que acontece hoje</translation>
+    </message>
+    <message>
+        <source>Findings: %1 of %2</source>
+        <translation>Constatações: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>Somente erros</translation>
+    </message>
+    <message>
+        <source>Errors and warnings</source>
+        <translation>Erros e avisos</translation>
+    </message>
+    <message>
+        <source>All findings</source>
+        <translation>Todas as constatações</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Todos os tipos</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>Digite para pesquisar...</translation>
+    </message>
+    <message>
+        <source>Search the findings</source>
+        <translation>Pesquisar nas constatações</translation>
+    </message>
+    <message>
+        <source>Least severe finding</source>
+        <translation>Gravidade mínima</translation>
+    </message>
+    <message>
+        <source>Kind of finding</source>
+        <translation>Tipo de constatação</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Constatações</translation>
+    </message>
+    <message>
+        <source>What settles the finding</source>
+        <translation>O que resolve a constatação</translation>
+    </message>
+    <message>
+        <source>Select a finding to see what settles it.</source>
+        <translation>Selecione uma constatação para ver o que a resolve.</translation>
+    </message>
+    <message>
+        <source>Give back</source>
+        <translation>Devolver</translation>
+    </message>
+    <message>
+        <source>Give to this action</source>
+        <translation>Dar a esta ação</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Choose another</source>
+        <translation>Escolher outro</translation>
+    </message>
+    <message>
+        <source>Remove %1 from %2</source>
+        <translation>Remover %1 de %2</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2</source>
+        <translation>Dar %1 a %2</translation>
+    </message>
+    <message>
+        <source>Give %1 back to %2</source>
+        <translation>Devolver %1 a %2</translation>
+    </message>
+    <message>
+        <source>Change %1 to %2 for %3</source>
+        <translation>Mudar %1 para %2 em %3</translation>
     </message>
 </context>
 <context>

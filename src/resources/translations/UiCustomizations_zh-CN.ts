@@ -47,10 +47,6 @@
         <translation>输入文本时，此按键不执行 %1：%2。</translation>
     </message>
     <message>
-        <source>A desktop may take this key before it runs %1: %2.</source>
-        <translation>桌面可能会在此按键执行 %1 之前将其占用：%2。</translation>
-    </message>
-    <message>
         <source>%1 has lost %2.</source>
         <translation>%1 已失去 %2。</translation>
     </message>
@@ -73,6 +69,10 @@
     <message>
         <source>%1 holds %2 of %3 hotkeys.</source>
         <translation>%1 有 %2 个快捷键，上限为 %3 个。</translation>
+    </message>
+    <message>
+        <source>%1 may take this key before it runs %2.</source>
+        <translation>%1 可能会在此按键执行 %2 之前将其占用。</translation>
     </message>
 </context>
 <context>
@@ -319,6 +319,109 @@
     <message>
         <source>Successfully removed</source>
         <translation>已成功移除</translation>
+    </message>
+</context>
+<context>
+    <name>CUI::QvelConflictsWidget</name>
+    <message>
+        <source>Severity</source>
+        <translation>严重程度</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>发现项</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>What happens today</source>
+        <translation>当前情况</translation>
+    </message>
+    <message>
+        <source>Findings: %1 of %2</source>
+        <translation>发现项：%1 / %2</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>仅错误</translation>
+    </message>
+    <message>
+        <source>Errors and warnings</source>
+        <translation>错误和警告</translation>
+    </message>
+    <message>
+        <source>All findings</source>
+        <translation>所有发现项</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>所有类型</translation>
+    </message>
+    <message>
+        <source>Type to search...</source>
+        <translation>输入以搜索...</translation>
+    </message>
+    <message>
+        <source>Search the findings</source>
+        <translation>搜索发现项</translation>
+    </message>
+    <message>
+        <source>Least severe finding</source>
+        <translation>最低严重程度</translation>
+    </message>
+    <message>
+        <source>Kind of finding</source>
+        <translation>发现项类型</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>发现项</translation>
+    </message>
+    <message>
+        <source>What settles the finding</source>
+        <translation>解决方法</translation>
+    </message>
+    <message>
+        <source>Select a finding to see what settles it.</source>
+        <translation>选择一个发现项以查看解决方法。</translation>
+    </message>
+    <message>
+        <source>Give back</source>
+        <translation>归还</translation>
+    </message>
+    <message>
+        <source>Give to this action</source>
+        <translation>指定给此操作</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Choose another</source>
+        <translation>选择其他</translation>
+    </message>
+    <message>
+        <source>Remove %1 from %2</source>
+        <translation>从 %2 移除 %1</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2</source>
+        <translation>将 %1 指定给 %2</translation>
+    </message>
+    <message>
+        <source>Give %1 back to %2</source>
+        <translation>将 %1 归还给 %2</translation>
+    </message>
+    <message>
+        <source>Change %1 to %2 for %3</source>
+        <translation>将 %1 更改为 %2：%3</translation>
     </message>
 </context>
 <context>
