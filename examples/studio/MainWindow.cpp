@@ -2,17 +2,19 @@
 
 #include "Actions.h"
 #include "AreaFocus.h"
-#include "CommandFinder.h"
 #include "HostActionRegistry.h"
 #include "HotkeyActions.h"
 #include "Icons.h"
 #include "MenuBuilder.h"
+#include "ModifierHints.h"
 #include "SampleHost.h"
 #include "Timeline.h"
 #include "Viewport.h"
 
 #include <UiCustomizations/HotkeySetWatcher.h>
 #include <UiCustomizations/QvelActionBinder.h>
+#include <UiCustomizations/QvelActionItemModel.h>
+#include <UiCustomizations/QvelCommandPalette.h>
 #include <UiCustomizations/QvelMessageLogWidget.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
@@ -63,6 +65,7 @@ MainWindow::MainWindow(Host::SampleHost &host, CUI::QvelShortcutManager &store, 
     setWorkspace(0);
     statusBar()->showMessage(tr("Ready"));
     m_viewport->setFocus();
+    m_hints = new ModifierHints(*m_binder, store, statusBar());
     connect(host.registry(), &Host::HostActionRegistry::triggered, this,
             [this](const CUI::ActionIdentifier &action) { perform(action); });
     connect(m_binder, &CUI::QvelActionBinder::pressed, this,
@@ -159,12 +162,22 @@ CustomizeDialog *MainWindow::showCustomizeDialog()
     return m_dialog;
 }
 
+CUI::QvelCommandPalette &MainWindow::commandPalette()
+{
+    if (m_palette == nullptr) {
+        auto *model = new CUI::QvelActionItemModel(&m_store);
+        m_palette = new CUI::QvelCommandPalette(model, &m_store, m_binder, this);
+        model->setParent(m_palette); // which is destroyed after what uses it
+        m_palette->setObjectName(QStringLiteral("commandPalette"));
+        connect(m_palette, &CUI::QvelCommandPalette::triggered, this,
+                [this](const CUI::ActionIdentifier &action) { perform(action); });
+    }
+    return *m_palette;
+}
+
 void MainWindow::findCommand()
 {
-    auto *finder = new CommandFinder(*m_hotkeyActions, this);
-    connect(finder, &CommandFinder::chosen, this,
-            [this](const CUI::ActionIdentifier &action) { perform(action); });
-    finder->show();
+    commandPalette().open();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

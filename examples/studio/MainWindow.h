@@ -21,6 +21,7 @@ class SampleHost;
 namespace CUI {
 class HotkeySetWatcher;
 class QvelActionBinder;
+class QvelCommandPalette;
 class QvelMessageLogWidget;
 class QvelShortcutManager;
 } // namespace CUI
@@ -30,6 +31,7 @@ namespace Studio {
 class AreaFocus;
 class GraphView;
 class HotkeyActions;
+class ModifierHints;
 class NodeView;
 class Outliner;
 class PropertyPanel;
@@ -89,6 +91,9 @@ public:
     /// Opens the dialog with the hotkeys, or brings it to the front.
     CustomizeDialog *showCustomizeDialog();
     void findCommand();
+    /// Made when it is first asked for.
+    CUI::QvelCommandPalette &commandPalette();
+    ModifierHints &hints() const { return *m_hints; }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -113,6 +118,8 @@ private:
     Document *m_document;
     ViewState *m_view;
     CUI::QvelActionBinder *m_binder;
+    CUI::QvelCommandPalette *m_palette = nullptr;
+    ModifierHints *m_hints = nullptr;
     HotkeyActions *m_hotkeyActions;
     AreaFocus *m_areas;
     Viewport *m_viewport = nullptr;

@@ -5,6 +5,7 @@
 #include "HotkeyActions.h"
 #include "Icons.h"
 #include "MainWindow.h"
+#include "ModifierHints.h"
 #include "SampleHost.h"
 
 #include <QDockWidget>
@@ -71,6 +72,12 @@ void addPanels(MainWindow &window)
     customize->setObjectName(QStringLiteral("customizeHotkeys"));
     QObject::connect(customize, &QAction::triggered, &window,
                      [&window] { window.showCustomizeDialog(); });
+    QAction *hints = menu->addAction(QStringLiteral("&List Hotkeys While Ctrl Is Held"));
+    hints->setObjectName(QStringLiteral("listHotkeys"));
+    hints->setCheckable(true);
+    QObject::connect(hints, &QAction::toggled, &window, [&window](bool isOn) {
+        window.hints().setModifier(isOn ? Qt::ControlModifier : Qt::NoModifier);
+    });
 }
 
 } // namespace

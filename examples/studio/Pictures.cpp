@@ -6,13 +6,17 @@
 #include "Gestures.h"
 #include "MainWindow.h"
 #include "StudioSession.h"
+#include "Viewport.h"
 
+#include <UiCustomizations/QvelCommandPalette.h>
 #include <UiCustomizations/QvelConflictsWidget.h>
 #include <UiCustomizations/QvelKeyboardWidget.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
+#include <QPainter>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTreeView>
@@ -52,8 +56,44 @@ void showConflicts(CustomizeDialog *dialog, CUI::QvelShortcutManager &store)
     table->setCurrentIndex(table->model()->index(0, 0));
 }
 
-bool writeOne(const QString &hostDirectory, bool dark,
-              void (*show)(CustomizeDialog *, CUI::QvelShortcutManager &), const QString &file,
+using Show = void (*)(CustomizeDialog *, CUI::QvelShortcutManager &);
+
+QPixmap pictureOfDialog(MainWindow &window, Show show)
+{
+    CustomizeDialog *dialog = window.showCustomizeDialog();
+    dialog->resize(pictureSize);
+    QApplication::setActiveWindow(dialog);
+    Gestures::wait(100);
+    show(dialog, window.store());
+    Gestures::wait(100);
+    QPixmap picture = dialog->grab();
+    window.store().clearTransforms(); // or it would be asked about them
+    dialog->close();
+    return picture;
+}
+
+/// The palette lies over the window that it was opened from.
+QPixmap pictureOfPalette(MainWindow &window)
+{
+    window.resize(pictureSize);
+    QApplication::setActiveWindow(&window);
+    window.viewport().setFocus();
+    Gestures::wait(100);
+    CUI::QvelCommandPalette &palette = window.commandPalette();
+    palette.open();
+    Gestures::wait(100);
+    palette.findChild<QLineEdit *>(QStringLiteral("paletteSearch"))
+            ->setText(QStringLiteral("frame all"));
+    Gestures::wait(100);
+    QPixmap picture = window.grab();
+    QPainter painter(&picture);
+    painter.drawPixmap(palette.geometry().topLeft() - window.geometry().topLeft(), palette.grab());
+    palette.hide();
+    return picture;
+}
+
+/// Without @p show, it is the palette.
+bool writeOne(const QString &hostDirectory, bool dark, Show show, const QString &file,
               QString &error)
 {
     Appearance::apply(dark);
@@ -64,15 +104,8 @@ bool writeOne(const QString &hostDirectory, bool dark,
         return false;
     }
     session.window().show();
-    CustomizeDialog *dialog = session.window().showCustomizeDialog();
-    dialog->resize(pictureSize);
-    QApplication::setActiveWindow(dialog);
-    Gestures::wait(100);
-    show(dialog, session.window().store());
-    Gestures::wait(100);
-    const QPixmap picture = dialog->grab();
-    session.window().store().clearTransforms(); // or it would be asked about them
-    dialog->close();
+    const QPixmap picture = show != nullptr ? pictureOfDialog(session.window(), show)
+                                            : pictureOfPalette(session.window());
     Gestures::wait();
     if (picture.save(file))
         return true;
@@ -92,13 +125,15 @@ bool write(const QString &hostDirectory, const QString &folder, QString &error)
     const struct {
         const char *name;
         bool dark;
-        void (*show)(CustomizeDialog *, CUI::QvelShortcutManager &);
+        Show show;
     } pictures[] = {
             {"editor-light.png", false, showEditor},
             {"editor-dark.png", true, showEditor},
             {"conflicts-light.png", false, showConflicts},
             {"conflicts-dark.png", true, showConflicts},
             {"keyboard.png", false, showKeyboard},
+            {"palette-light.png", false, nullptr},
+            {"palette-dark.png", true, nullptr},
     };
     return std::all_of(std::begin(pictures), std::end(pictures), [&](const auto &picture) {
         return writeOne(hostDirectory, picture.dark, picture.show,

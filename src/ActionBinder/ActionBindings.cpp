@@ -207,6 +207,29 @@ ActionIdentifier ActionBindings::identifierOf(const QAction *action) const
     return found == m_bindings.end() ? ActionIdentifier() : found->second.identifier;
 }
 
+QAction *ActionBindings::actionOf(const ActionIdentifier &identifier) const
+{
+    const auto found = m_actions.find(identifier);
+    if (found == m_actions.end() || found->second.empty())
+        return nullptr;
+    QAction *best = nullptr;
+    for (QAction *action : found->second) {
+        if (!action->isEnabled())
+            continue;
+        if (distanceOf(*action, identifier) != FocusDistance::outOfReach)
+            return action;
+        if (best == nullptr)
+            best = action;
+    }
+    return best != nullptr ? best : found->second.front();
+}
+
+QAction *ActionBindings::actionOf(const QKeySequence &key) const
+{
+    const Holders holders = holdersOf({key});
+    return holders.isUnclear ? nullptr : holders.chosen;
+}
+
 ActionBindings::Binding *ActionBindings::find(const QAction *action)
 {
     const auto found = m_bindings.find(action);

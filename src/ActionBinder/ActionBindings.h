@@ -30,6 +30,8 @@ public:
     /// Removes all; the last call.
     void clear();
     ActionIdentifier identifierOf(const QAction *action) const;
+    QAction *actionOf(const ActionIdentifier &identifier) const;
+    QAction *actionOf(const QKeySequence &key) const;
 
     /// The context acts only in these widgets; in the whole window without a value.
     void setContextWidgets(unsigned long contextId,

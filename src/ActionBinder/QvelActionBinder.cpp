@@ -233,6 +233,16 @@ ActionIdentifier QvelActionBinder::identifierOf(const QAction *action) const
     return d->bindings.identifierOf(action);
 }
 
+QAction *QvelActionBinder::actionOf(const ActionIdentifier &identifier) const
+{
+    return d->bindings.actionOf(identifier);
+}
+
+QAction *QvelActionBinder::actionOf(const QKeySequence &key) const
+{
+    return d->bindings.actionOf(key);
+}
+
 void QvelActionBinder::setContextWidget(unsigned long contextId, QWidget *widget)
 {
     if (widget != nullptr)

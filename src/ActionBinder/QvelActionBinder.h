@@ -12,6 +12,7 @@
 #include <vector>
 
 class QAction;
+class QKeySequence;
 class QWidget;
 
 namespace CUI {
@@ -83,6 +84,14 @@ public:
 
     /// What @p action is bound to; the empty identifier when it is not bound.
     ActionIdentifier identifierOf(const QAction *action) const;
+
+    /// The action that stands for @p identifier: of those that are bound to it, the first that is
+    /// enabled and within reach of the keyboard focus, else the first that is enabled, else the
+    /// first. Null when none is bound.
+    QAction *actionOf(const ActionIdentifier &identifier) const;
+    /// The action that a press of @p key would trigger with the keyboard focus where it is; null
+    /// when there is none, or it is ambiguous.
+    QAction *actionOf(const QKeySequence &key) const;
     /// @}
 
     /// \name Contexts

@@ -14,6 +14,7 @@
 #include "Viewport.h"
 
 #include <UiCustomizations/ICuiActionManager.h>
+#include <UiCustomizations/QvelCommandPalette.h>
 
 #include <QApplication>
 #include <QComboBox>
@@ -80,6 +81,8 @@ private Q_SLOTS:
     void textKeepsItsKeys();
     void unknownActionsTellTheirNames();
     void menusFollowTheStore();
+    void findsCommands();
+    void listsWhatAModifierLeadsTo();
     void otherHost();
 
 private:
@@ -297,6 +300,42 @@ void StudioTest::menusFollowTheStore()
     QCOMPARE(window().hotkeyActions().hotkeys(find), s("F3, Ctrl+Z"));
     store.clearTransforms();
     QCOMPARE(undoEntry->shortcut(), QKeySequence(s("Ctrl+Z")));
+}
+
+void StudioTest::findsCommands()
+{
+    window().viewport().setFocus();
+    QTest::keyClick(&window().viewport(), Qt::Key_F3);
+    auto *search = window().commandPalette().findChild<QLineEdit *>(s("paletteSearch"));
+    QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget *>(search));
+    QTest::keyClicks(search, s("toggle grid"));
+    QTest::keyClick(search, Qt::Key_Return);
+    QCOMPARE(status(), s("Toggle Grid"));
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(&window().viewport()));
+}
+
+void StudioTest::listsWhatAModifierLeadsTo()
+{
+    QWidget *viewport = &window().viewport();
+    viewport->setFocus();
+    const QString before = status();
+    QTest::keyPress(viewport, Qt::Key_Control);
+    QTest::qWait(1200);
+    QCOMPARE(status(), before);
+    QTest::keyRelease(viewport, Qt::Key_Control);
+
+    window().findChild<QAction *>(s("listHotkeys"))->setChecked(true);
+    QTest::keyPress(viewport, Qt::Key_Control);
+    QTRY_VERIFY_WITH_TIMEOUT(status().contains(s("Ctrl+S Save Scene")), 3000);
+    QVERIFY(!status().contains(s("Jump to Start"))); // the timeline's
+    QTest::keyRelease(viewport, Qt::Key_Control);
+    QCOMPARE(status(), before);
+    window().dock("timelineDock")->widget()->setFocus();
+    QTest::keyPress(QApplication::focusWidget(), Qt::Key_Control);
+    QTRY_VERIFY_WITH_TIMEOUT(status().contains(s("Ctrl+Left Jump to Start")), 3000);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left, Qt::ControlModifier);
+    QCOMPARE(status(), s("Jump to Start"));
+    window().findChild<QAction *>(s("listHotkeys"))->setChecked(false);
 }
 
 void StudioTest::otherHost()

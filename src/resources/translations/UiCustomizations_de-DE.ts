@@ -322,6 +322,77 @@
     </message>
 </context>
 <context>
+    <name>CUI::QvelCommandPalette</name>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1 (nicht verfügbar)</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>Tasten drücken...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>Zuweisen</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1:</source>
+        <translation>Neues Tastenkürzel für %1:</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1 instead of %2:</source>
+        <translation>Neues Tastenkürzel für %1 statt %2:</translation>
+    </message>
+    <message>
+        <source>Press the new hotkey, or Escape to leave it.</source>
+        <translation>Drücken Sie das neue Tastenkürzel oder Esc zum Abbrechen.</translation>
+    </message>
+    <message>
+        <source>Enter assigns it.</source>
+        <translation>Mit der Eingabetaste weisen Sie es zu.</translation>
+    </message>
+    <message>
+        <source>Conflicts with: %1. Enter takes it from there.</source>
+        <translation>Konflikt mit: %1. Mit der Eingabetaste nehmen Sie es von dort.</translation>
+    </message>
+    <message>
+        <source>Assign %1 to %2</source>
+        <translation>%1 zu %2 zuweisen</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>Nach Aktionen suchen...</translation>
+    </message>
+    <message>
+        <source>Search for a command</source>
+        <translation>Befehl suchen</translation>
+    </message>
+    <message>
+        <source>It acts only while its hotkey is held.</source>
+        <translation>Wirkt nur, solange das Tastenkürzel gehalten wird.</translation>
+    </message>
+    <message>
+        <source>It is disabled at the moment.</source>
+        <translation>Zurzeit deaktiviert.</translation>
+    </message>
+    <message>
+        <source>The application does not perform it.</source>
+        <translation>Die Anwendung führt dies nicht aus.</translation>
+    </message>
+    <message>
+        <source>No command has this name.</source>
+        <translation>Kein Befehl hat diesen Namen.</translation>
+    </message>
+    <message>
+        <source>Enter runs it, Tab changes its hotkey, Escape closes.</source>
+        <translation>Eingabetaste: ausführen, Tab: Tastenkürzel ändern, Esc: schließen.</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelConflictsWidget</name>
     <message>
         <source>Severity</source>

@@ -322,6 +322,77 @@
     </message>
 </context>
 <context>
+    <name>CUI::QvelCommandPalette</name>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1 (indisponible)</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>Appuyer sur les touches...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>Attribuer</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1:</source>
+        <translation>Nouveau raccourci pour %1 :</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1 instead of %2:</source>
+        <translation>Nouveau raccourci pour %1 au lieu de %2 :</translation>
+    </message>
+    <message>
+        <source>Press the new hotkey, or Escape to leave it.</source>
+        <translation>Appuyez sur le nouveau raccourci, ou sur Échap pour abandonner.</translation>
+    </message>
+    <message>
+        <source>Enter assigns it.</source>
+        <translation>Entrée l’attribue.</translation>
+    </message>
+    <message>
+        <source>Conflicts with: %1. Enter takes it from there.</source>
+        <translation>En conflit avec : %1. Entrée le lui retire.</translation>
+    </message>
+    <message>
+        <source>Assign %1 to %2</source>
+        <translation>Attribuer %1 à %2</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Commandes</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>Rechercher par action...</translation>
+    </message>
+    <message>
+        <source>Search for a command</source>
+        <translation>Rechercher une commande</translation>
+    </message>
+    <message>
+        <source>It acts only while its hotkey is held.</source>
+        <translation>N’agit que tant que son raccourci est maintenu.</translation>
+    </message>
+    <message>
+        <source>It is disabled at the moment.</source>
+        <translation>Désactivé pour le moment.</translation>
+    </message>
+    <message>
+        <source>The application does not perform it.</source>
+        <translation>L’application ne l’exécute pas.</translation>
+    </message>
+    <message>
+        <source>No command has this name.</source>
+        <translation>Aucune commande ne porte ce nom.</translation>
+    </message>
+    <message>
+        <source>Enter runs it, Tab changes its hotkey, Escape closes.</source>
+        <translation>Entrée : exécuter, Tab : changer le raccourci, Échap : fermer.</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelConflictsWidget</name>
     <message>
         <source>Severity</source>

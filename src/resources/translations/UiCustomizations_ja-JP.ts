@@ -322,6 +322,77 @@
     </message>
 </context>
 <context>
+    <name>CUI::QvelCommandPalette</name>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1（使用不可）</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>キーを押してください...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>割り当て</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1:</source>
+        <translation>%1 の新しいホットキー:</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1 instead of %2:</source>
+        <translation>%1 の %2 に代わる新しいホットキー:</translation>
+    </message>
+    <message>
+        <source>Press the new hotkey, or Escape to leave it.</source>
+        <translation>新しいホットキーを押してください。Esc で中止します。</translation>
+    </message>
+    <message>
+        <source>Enter assigns it.</source>
+        <translation>Enter で割り当てます。</translation>
+    </message>
+    <message>
+        <source>Conflicts with: %1. Enter takes it from there.</source>
+        <translation>競合先: %1。Enter でそこから移します。</translation>
+    </message>
+    <message>
+        <source>Assign %1 to %2</source>
+        <translation>%1 を %2 に割り当て</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>アクション名で検索...</translation>
+    </message>
+    <message>
+        <source>Search for a command</source>
+        <translation>コマンドを検索</translation>
+    </message>
+    <message>
+        <source>It acts only while its hotkey is held.</source>
+        <translation>ホットキーを押している間だけ有効です。</translation>
+    </message>
+    <message>
+        <source>It is disabled at the moment.</source>
+        <translation>現在は無効です。</translation>
+    </message>
+    <message>
+        <source>The application does not perform it.</source>
+        <translation>アプリケーションはこれを実行しません。</translation>
+    </message>
+    <message>
+        <source>No command has this name.</source>
+        <translation>この名前のコマンドはありません。</translation>
+    </message>
+    <message>
+        <source>Enter runs it, Tab changes its hotkey, Escape closes.</source>
+        <translation>Enter: 実行、Tab: ホットキーの変更、Esc: 閉じる</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelConflictsWidget</name>
     <message>
         <source>Severity</source>

@@ -322,6 +322,77 @@
     </message>
 </context>
 <context>
+    <name>CUI::QvelCommandPalette</name>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1(사용할 수 없음)</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>키를 누르십시오...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>할당</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1:</source>
+        <translation>%1의 새 단축키:</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1 instead of %2:</source>
+        <translation>%1의 새 단축키(%2 대신):</translation>
+    </message>
+    <message>
+        <source>Press the new hotkey, or Escape to leave it.</source>
+        <translation>새 단축키를 누르십시오. 그만두려면 Esc 키를 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Enter assigns it.</source>
+        <translation>Enter 키를 누르면 할당합니다.</translation>
+    </message>
+    <message>
+        <source>Conflicts with: %1. Enter takes it from there.</source>
+        <translation>다음과 충돌: %1. Enter 키를 누르면 가져옵니다.</translation>
+    </message>
+    <message>
+        <source>Assign %1 to %2</source>
+        <translation>%1을(를) %2에 할당</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>명령</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>동작 이름으로 검색...</translation>
+    </message>
+    <message>
+        <source>Search for a command</source>
+        <translation>명령 검색</translation>
+    </message>
+    <message>
+        <source>It acts only while its hotkey is held.</source>
+        <translation>단축키를 누르고 있는 동안만 작동합니다.</translation>
+    </message>
+    <message>
+        <source>It is disabled at the moment.</source>
+        <translation>지금은 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The application does not perform it.</source>
+        <translation>응용 프로그램이 실행하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>No command has this name.</source>
+        <translation>이 이름의 명령이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Enter runs it, Tab changes its hotkey, Escape closes.</source>
+        <translation>Enter: 실행, Tab: 단축키 변경, Esc: 닫기</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelConflictsWidget</name>
     <message>
         <source>Severity</source>

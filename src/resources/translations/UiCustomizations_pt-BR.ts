@@ -322,6 +322,77 @@
     </message>
 </context>
 <context>
+    <name>CUI::QvelCommandPalette</name>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1 (não disponível)</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>Pressione as teclas...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>Atribuir</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1:</source>
+        <translation>Novo atalho para %1:</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1 instead of %2:</source>
+        <translation>Novo atalho para %1 em vez de %2:</translation>
+    </message>
+    <message>
+        <source>Press the new hotkey, or Escape to leave it.</source>
+        <translation>Pressione o novo atalho, ou Esc para desistir.</translation>
+    </message>
+    <message>
+        <source>Enter assigns it.</source>
+        <translation>Enter o atribui.</translation>
+    </message>
+    <message>
+        <source>Conflicts with: %1. Enter takes it from there.</source>
+        <translation>Conflito com: %1. Enter o retira de lá.</translation>
+    </message>
+    <message>
+        <source>Assign %1 to %2</source>
+        <translation>Atribuir %1 a %2</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Comandos</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>Pesquisar por ações...</translation>
+    </message>
+    <message>
+        <source>Search for a command</source>
+        <translation>Pesquisar um comando</translation>
+    </message>
+    <message>
+        <source>It acts only while its hotkey is held.</source>
+        <translation>Atua somente enquanto seu atalho está pressionado.</translation>
+    </message>
+    <message>
+        <source>It is disabled at the moment.</source>
+        <translation>Desativado no momento.</translation>
+    </message>
+    <message>
+        <source>The application does not perform it.</source>
+        <translation>O aplicativo não o executa.</translation>
+    </message>
+    <message>
+        <source>No command has this name.</source>
+        <translation>Nenhum comando tem este nome.</translation>
+    </message>
+    <message>
+        <source>Enter runs it, Tab changes its hotkey, Escape closes.</source>
+        <translation>Enter: executar, Tab: mudar o atalho, Esc: fechar.</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelConflictsWidget</name>
     <message>
         <source>Severity</source>

@@ -322,6 +322,77 @@
     </message>
 </context>
 <context>
+    <name>CUI::QvelCommandPalette</name>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1（不可用）</translation>
+    </message>
+    <message>
+        <source>Press keys...</source>
+        <translation>按下按键...</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>指定</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1:</source>
+        <translation>%1 的新快捷键：</translation>
+    </message>
+    <message>
+        <source>New hotkey for %1 instead of %2:</source>
+        <translation>%1 的新快捷键（代替 %2）：</translation>
+    </message>
+    <message>
+        <source>Press the new hotkey, or Escape to leave it.</source>
+        <translation>请按下新快捷键，或按 Esc 放弃。</translation>
+    </message>
+    <message>
+        <source>Enter assigns it.</source>
+        <translation>按 Enter 指定。</translation>
+    </message>
+    <message>
+        <source>Conflicts with: %1. Enter takes it from there.</source>
+        <translation>冲突操作：%1。按 Enter 从该操作取走。</translation>
+    </message>
+    <message>
+        <source>Assign %1 to %2</source>
+        <translation>将 %1 指定给 %2</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Type to search by Actions...</source>
+        <translation>按操作名称搜索...</translation>
+    </message>
+    <message>
+        <source>Search for a command</source>
+        <translation>搜索命令</translation>
+    </message>
+    <message>
+        <source>It acts only while its hotkey is held.</source>
+        <translation>仅在按住快捷键时有效。</translation>
+    </message>
+    <message>
+        <source>It is disabled at the moment.</source>
+        <translation>目前已禁用。</translation>
+    </message>
+    <message>
+        <source>The application does not perform it.</source>
+        <translation>应用程序不执行此操作。</translation>
+    </message>
+    <message>
+        <source>No command has this name.</source>
+        <translation>没有此名称的命令。</translation>
+    </message>
+    <message>
+        <source>Enter runs it, Tab changes its hotkey, Escape closes.</source>
+        <translation>Enter：执行，Tab：更改快捷键，Esc：关闭。</translation>
+    </message>
+</context>
+<context>
     <name>CUI::QvelConflictsWidget</name>
     <message>
         <source>Severity</source>
