@@ -2,6 +2,7 @@
 
 #include "Icons.h"
 #include "SetBars.h"
+#include "SheetMenu.h"
 
 #include <UiCustomizations/IPathManager.h>
 #include <UiCustomizations/QvelActionItemModel.h>
@@ -64,6 +65,9 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     m_tabs->addTab(makeMenusView(m_menuModel), tr("&Menus"));
     m_tabs->addTab(m_log, tr("&Log"));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    QPushButton *sheet = buttons->addButton(tr("&Sheet"), QDialogButtonBox::ActionRole);
+    sheet->setMenu(new SheetMenu(&manager, m_editor, sheet));
+    sheet->setAutoDefault(false);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     auto *layout = new QVBoxLayout(this);
     const auto *bars = new SetBars(manager, watcher, layout, this);

@@ -115,6 +115,16 @@ int flagsOf(std::uint32_t combination)
     return fNoInvert | fVirtKey | static_cast<int>(modifiers >> modifierShift);
 }
 
+QStringList splitAtPlus(const QString &hotkey)
+{
+    const QLatin1Char plus('+');
+    if (!hotkey.endsWith(plus))
+        return hotkey.split(plus);
+    QString modifiers = hotkey;
+    modifiers.chop(2); // the key and the separator before it, if there is one
+    return modifiers.split(plus) << QString(plus);
+}
+
 } // namespace
 
 bool keySequenceToVirtualKey(const QString &shortcut, int &virtualKey, int &fVirt)
@@ -172,6 +182,20 @@ QString getNumPadKeyName(QKeySequence::SequenceFormat format)
             QKeySequence::fromString(QStringLiteral("Num+A"), QKeySequence::PortableText);
     const QString text = sequence.toString(format);
     return text.left(text.indexOf(QLatin1Char('+')));
+}
+
+QStringList partsOf(const QString &hotkey, QKeySequence::SequenceFormat inputFormat,
+                    QKeySequence::SequenceFormat outputFormat)
+{
+    const QString text = QKeySequence(hotkey, inputFormat).toString(outputFormat);
+    if (text.isEmpty())
+        return {};
+    QStringList parts = splitAtPlus(text);
+    if (parts.size() > 1 && parts.at(parts.size() - 2) == getNumPadKeyName(outputFormat)) {
+        const QString key = parts.takeLast();
+        parts.last() += QLatin1Char('+') + key;
+    }
+    return parts;
 }
 
 QKeySequence keyOf(const QString &hotkey)

@@ -4,6 +4,7 @@
 
 #include <QKeySequence>
 #include <QString>
+#include <QStringList>
 
 namespace CUI {
 
@@ -17,6 +18,11 @@ CUI_CORE_EXPORT QString virtualKeyToStr(int virtualKey, int fVirt);
 CUI_CORE_EXPORT int keyToOEM(int key);
 CUI_CORE_EXPORT int oemToKey(int virtualKey);
 CUI_CORE_EXPORT QString getNumPadKeyName(QKeySequence::SequenceFormat format);
+
+/// The modifiers of a hotkey and its key, which is the last part, in @p outputFormat. No parts when
+/// the text is no key combination. The keypad's qualifier and its key are one part.
+CUI_CORE_EXPORT QStringList partsOf(const QString &hotkey, QKeySequence::SequenceFormat inputFormat,
+                                    QKeySequence::SequenceFormat outputFormat);
 
 /// The key of a hotkey text in portable form; empty when there is no such key.
 CUI_CORE_EXPORT QKeySequence keyOf(const QString &hotkey);

@@ -1,5 +1,7 @@
 #include "QvelSortFilterProxyModel.h"
 
+#include "ActionMatcher.h"
+#include "KeyNames.h"
 #include "LanguageWatch.h"
 #include "QvelActionItem.h"
 #include "QvelShortcutManager.h"
@@ -7,7 +9,6 @@
 #include "SortKeys.h"
 
 #include <QPointer>
-#include <QRegularExpression>
 #include <QStandardItemModel>
 
 #include <algorithm>
@@ -24,26 +25,6 @@ const QString noCategory = QStringLiteral("All Subgroups/Categories");
 QStringList hotkeysOf(const QString &text)
 {
     return text.split(QLatin1String(", "));
-}
-
-/// The text of a hotkey cell as a search by hotkey sees it: with blanks between the hotkeys.
-QString withoutSeparators(const QString &hotkeys)
-{
-    static const QRegularExpression separator(QStringLiteral(",\\s+"));
-    if (!hotkeys.contains(QLatin1Char(',')))
-        return hotkeys;
-    QString result = hotkeys;
-    return result.replace(separator, QStringLiteral(" "));
-}
-
-QStringList splitAtPlus(const QString &hotkey)
-{
-    const QLatin1Char plus('+');
-    if (!hotkey.endsWith(plus))
-        return hotkey.split(plus);
-    QString modifiers = hotkey;
-    modifiers.chop(2); // the key and the separator before it, if there is one
-    return modifiers.split(plus) << QString(plus);
 }
 
 /// The columns that decide when the texts of @p column are equal.
@@ -114,7 +95,6 @@ private:
         const QModelIndex index = m_proxy.sourceModel()->index(row, column, parent);
         return keys.key(column, keys.number(index)).text;
     }
-    bool isCustomized(const QvelActionItem &cell) const;
     void forgetKeyNames();
 
     QvelSortFilterProxyModel &m_proxy;
@@ -150,7 +130,8 @@ bool QvelSortFilterProxyModel::Private::passesSearch(int row, const QModelIndex 
     }
     const SearchText &hotkeys = shownText(row, QvelActionItemModel::HotkeyColumn, parent);
     const bool isList = isHotkeySearch() && hotkeys.text.contains(QLatin1Char(','));
-    return query.matches(isList ? SearchText(withoutSeparators(hotkeys.text)) : hotkeys);
+    return query.matches(isList ? SearchText(SearchQuery::withoutSeparators(hotkeys.text))
+                                : hotkeys);
 }
 
 bool QvelSortFilterProxyModel::Private::passesHotkeyFilter(const QvelActionItem &cell) const
@@ -161,22 +142,14 @@ bool QvelSortFilterProxyModel::Private::passesHotkeyFilter(const QvelActionItem 
     case AssignedHotkeysOnly:
         return !cell.text().isEmpty();
     case CustomizedHotkeysOnly:
-        return isCustomized(cell);
+        return ActionMatcher::isCustomized(cell.text(),
+                                           manager.isNull() ? QString()
+                                                            : manager->getBaseShortcutsFromActionId(
+                                                                    cell.record()->identifier()));
     case UnsavedHotkeysOnly:
         return !manager.isNull() && manager->isUserModifiedAction(cell.record()->identifier());
     }
     return true;
-}
-
-bool QvelSortFilterProxyModel::Private::isCustomized(const QvelActionItem &cell) const
-{
-    const QStringList base = hotkeysOf(
-            manager.isNull() ? QString()
-                             : manager->getBaseShortcutsFromActionId(cell.record()->identifier()));
-    const QStringList current = hotkeysOf(cell.text());
-    return std::any_of(current.begin(), current.end(), [&base](const QString &hotkey) {
-        return !base.contains(hotkey, Qt::CaseInsensitive);
-    });
 }
 
 void QvelSortFilterProxyModel::Private::setQuery(const SearchQuery &newQuery)
@@ -348,28 +321,21 @@ bool QvelSortFilterProxyModel::lessThan(const QModelIndex &left, const QModelInd
 QvelSortFilterProxyModel::ActionSearchingSortOrder QvelSortFilterProxyModel::evaluateStringSearch(
         const QString &name) const
 {
-    return d->query.rank(SearchText(name));
+    static_assert(static_cast<int>(SearchQuery::NoMatch) == NoMatch);
+    return static_cast<ActionSearchingSortOrder>(d->query.rank(SearchText(name)));
 }
 
 QStringList QvelSortFilterProxyModel::getModifierAndKey(
         const QString &hotkey, QKeySequence::SequenceFormat inputFormat,
         QKeySequence::SequenceFormat outputFormat) const
 {
-    const QString text = QKeySequence(hotkey, inputFormat).toString(outputFormat);
-    if (text.isEmpty())
-        return {};
-    QStringList parts = splitAtPlus(text);
-    if (parts.size() > 1
-        && parts.at(parts.size() - 2) == QvelShortcutManager::getNumPadKeyName(outputFormat)) {
-        const QString key = parts.takeLast();
-        parts.last() += QLatin1Char('+') + key;
-    }
-    return parts;
+    return KeyNames::partsOf(hotkey, inputFormat, outputFormat);
 }
 
 bool QvelSortFilterProxyModel::getRegularExpressionResult(const QString &text) const
 {
-    return d->query.matches(SearchText(d->isHotkeySearch() ? withoutSeparators(text) : text));
+    return d->query.matches(
+            SearchText(d->isHotkeySearch() ? SearchQuery::withoutSeparators(text) : text));
 }
 
 QString QvelSortFilterProxyModel::getSearchedHotkey(const QStringList &hotkeys) const

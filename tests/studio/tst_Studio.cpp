@@ -1,11 +1,14 @@
 #include "AreaFocus.h"
 #include "CustomizeDialog.h"
+#include "DialogAnswers.h"
+#include "EditorHands.h"
 #include "GraphView.h"
 #include "HotkeyActions.h"
 #include "MainWindow.h"
 #include "NodeView.h"
 #include "Outliner.h"
 #include "RenderView.h"
+#include "SheetMenu.h"
 #include "StudioRows.h"
 #include "StudioSession.h"
 #include "Text.h"
@@ -21,6 +24,7 @@
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPrintPreviewWidget>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -84,6 +88,7 @@ private Q_SLOTS:
     void findsCommands();
     void listsWhatAModifierLeadsTo();
     void otherHost();
+    void sheetHasWhatTheTableLists();
 
 private:
     void start(const QString &host);
@@ -357,6 +362,32 @@ void StudioTest::otherHost()
     CustomizeDialog *dialog = window().showCustomizeDialog();
     QVERIFY(dialog->isVisible());
     QVERIFY(dialog->close());
+}
+
+void StudioTest::sheetHasWhatTheTableLists()
+{
+    CustomizeDialog *dialog = window().showCustomizeDialog();
+    QApplication::setActiveWindow(dialog);
+    const EditorHands hands(dialog);
+    hands.searchByName(s("merge"));
+    auto *menu = dialog->findChild<SheetMenu *>();
+    const QString path = m_user->filePath(s("merge.md"));
+    DialogAnswers answers;
+    answers.file(path);
+    menu->exportSheet();
+    QCOMPARE(answers.faults(), QString());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    const QStringList rows = hands.rows();
+    QVERIFY(rows.size() > 2);
+    for (const QString &row : rows)
+        QVERIFY2(text.contains(s("| %1 |").arg(row)), qPrintable(text));
+    QCOMPARE(text.count(s("\n| ")) - 2 * text.count(s("| --- | --- |")), rows.size());
+    menu->showPrintPreview();
+    auto *preview = dialog->findChild<QPrintPreviewWidget *>();
+    QTRY_COMPARE(preview->pageCount(), 1);
+    preview->window()->close();
 }
 
 QTEST_MAIN(StudioTest)

@@ -18,7 +18,7 @@ const std::vector<Command> &commands()
             assignCommand(),   unassignCommand(), resetCommand(),    stepsCommand(),
             checkCommand(),    setsCommand(),     useCommand(),      diffCommand(),
             mergeCommand(),    showCommand(),     convertCommand(),  baseCommand(),
-            validateCommand(),
+            validateCommand(), sheetCommand(),
     };
     return all;
 }

@@ -23,6 +23,7 @@ Command diffCommand();
 Command showCommand();
 Command convertCommand();
 Command mergeCommand();
+Command sheetCommand();
 
 /// All commands, in the order in which the help lists them.
 const std::vector<Command> &commands();

@@ -20,6 +20,13 @@ bool liesBelow(const QString &path, const QString &directory)
     return !root.isEmpty() && file.startsWith(root + QLatin1Char('/'));
 }
 
+bool hasContents(const QString &path)
+{
+    return QFileInfo(path).size() > 0;
+}
+
+} // namespace
+
 QString reasonAgainstPlace(const QString &path, const QString &presetDirectory)
 {
     const QFileInfo info(path);
@@ -35,13 +42,6 @@ QString reasonAgainstPlace(const QString &path, const QString &presetDirectory)
         return QStringLiteral("it is read-only");
     return {};
 }
-
-bool hasContents(const QString &path)
-{
-    return QFileInfo(path).size() > 0;
-}
-
-} // namespace
 
 QString reasonAgainstReplacingSet(const QString &path, const QString &presetDirectory)
 {

@@ -269,6 +269,30 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeySheet</name>
+    <message>
+        <source>Hotkeys</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>the code of this translation&apos;s language</comment>
+        <translation>fr</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>%1 (continued)</source>
+        <translation>%1 (suite)</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+</context>
+<context>
     <name>CUI::KeyboardChoosers</name>
     <message>
         <source>%1 groups</source>

@@ -269,6 +269,30 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeySheet</name>
+    <message>
+        <source>Hotkeys</source>
+        <translation>ホットキー</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>the code of this translation&apos;s language</comment>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>%1 (continued)</source>
+        <translation>%1（続き）</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%1 / %2 ページ</translation>
+    </message>
+</context>
+<context>
     <name>CUI::KeyboardChoosers</name>
     <message>
         <source>%1 groups</source>

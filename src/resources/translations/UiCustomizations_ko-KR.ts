@@ -269,6 +269,30 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeySheet</name>
+    <message>
+        <source>Hotkeys</source>
+        <translation>단축키</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>the code of this translation&apos;s language</comment>
+        <translation>ko</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+    <message>
+        <source>%1 (continued)</source>
+        <translation>%1(계속)</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%1/%2페이지</translation>
+    </message>
+</context>
+<context>
     <name>CUI::KeyboardChoosers</name>
     <message>
         <source>%1 groups</source>

@@ -269,6 +269,30 @@
     </message>
 </context>
 <context>
+    <name>CUI::HotkeySheet</name>
+    <message>
+        <source>Hotkeys</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>the code of this translation&apos;s language</comment>
+        <translation>zh-Hans</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>%1 (continued)</source>
+        <translation>%1（续）</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+</context>
+<context>
     <name>CUI::KeyboardChoosers</name>
     <message>
         <source>%1 groups</source>

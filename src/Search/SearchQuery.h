@@ -1,7 +1,7 @@
 #pragma once
 
-#include "QvelSortFilterProxyModel.h"
 #include "SearchText.h"
+#include "UiCustomizationsExport.h"
 
 #include <QRegularExpression>
 #include <QString>
@@ -15,10 +15,18 @@ namespace CUI {
 ///
 /// A regular expression decides whether a text matches. For simple texts (SearchText) the same
 /// answer is found without it, many times faster.
-class SearchQuery
+class CUI_CORE_EXPORT SearchQuery
 {
 public:
-    using Rank = QvelSortFilterProxyModel::ActionSearchingSortOrder;
+    /// The values of QvelSortFilterProxyModel::ActionSearchingSortOrder, which documents them.
+    enum Rank {
+        StartsWithSearch,
+        ContainsSearchAsWord,
+        ContainsSearch,
+        ContainsWordAsWord,
+        ContainsWord,
+        NoMatch,
+    };
 
     /// Matches nothing; names are ranked by @p text.
     explicit SearchQuery(const QString &text = QString());
@@ -28,6 +36,9 @@ public:
     /// words anywhere, the key, which is the last part, as a whole. Without parts, matches all
     /// texts that are not empty.
     static SearchQuery ofHotkey(const QString &text, const QStringList &parts);
+
+    /// The hotkeys of a joined text as ofHotkey() expects them: with blanks between them.
+    static QString withoutSeparators(const QString &hotkeys);
 
     const QString &text() const { return m_text.text; }
     /// False when it matches nothing, whatever the text.

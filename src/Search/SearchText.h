@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UiCustomizationsExport.h"
+
 #include <QString>
 
 namespace CUI {
@@ -10,7 +12,7 @@ namespace CUI {
 /// It gives the same answers only for simple texts: those in scripts where a letter has one capital
 /// and one small form, or none, and without line breaks. For other texts use the general functions
 /// on text.
-struct SearchText {
+struct CUI_CORE_EXPORT SearchText {
     SearchText() = default;
     explicit SearchText(const QString &original);
 

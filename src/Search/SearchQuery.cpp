@@ -6,8 +6,6 @@ namespace CUI {
 
 namespace {
 
-using Proxy = QvelSortFilterProxyModel;
-
 const QLatin1Char blank(' ');
 
 // The regular expressions
@@ -118,6 +116,15 @@ SearchQuery SearchQuery::ofHotkey(const QString &text, const QStringList &parts)
     return query;
 }
 
+QString SearchQuery::withoutSeparators(const QString &hotkeys)
+{
+    static const QRegularExpression separator(QStringLiteral(",\\s+"));
+    if (!hotkeys.contains(QLatin1Char(',')))
+        return hotkeys;
+    QString result = hotkeys;
+    return result.replace(separator, QStringLiteral(" "));
+}
+
 bool SearchQuery::matches(const SearchText &text) const
 {
     if (!isActive() || text.text.isEmpty())
@@ -170,16 +177,14 @@ SearchQuery::Rank SearchQuery::rank(const SearchText &name) const
     };
 
     if (searched.startsWith(form(m_text), sensitivity))
-        return Proxy::StartsWithSearch;
+        return StartsWithSearch;
     if (isPart(m_text)) {
-        return holdsBetweenBlanks(searched, form(m_text), sensitivity, false)
-                       ? Proxy::ContainsSearchAsWord
-                       : Proxy::ContainsSearch;
+        return holdsBetweenBlanks(searched, form(m_text), sensitivity, false) ? ContainsSearchAsWord
+                                                                              : ContainsSearch;
     }
     if (std::any_of(m_words.begin(), m_words.end(), isBetweenBlanks))
-        return Proxy::ContainsWordAsWord;
-    return std::any_of(m_words.begin(), m_words.end(), isPart) ? Proxy::ContainsWord
-                                                               : Proxy::NoMatch;
+        return ContainsWordAsWord;
+    return std::any_of(m_words.begin(), m_words.end(), isPart) ? ContainsWord : NoMatch;
 }
 
 } // namespace CUI

@@ -1,0 +1,17 @@
+#include <UiCustomizations/HotkeySheet.h>
+#include <UiCustomizations/QvelShortcutManager.h>
+
+void printHotkeys(CUI::QvelShortcutManager &hotkeys, unsigned long mesh,
+                  QPagedPaintDevice &printer);
+
+void printHotkeys(CUI::QvelShortcutManager &hotkeys, unsigned long mesh, QPagedPaintDevice &printer)
+{
+    CUI::ActionFilter filter;
+    filter.contexts = {mesh};
+    filter.state = CUI::ActionFilter::State::Assigned;
+    CUI::HotkeySheet sheet(hotkeys, filter);
+    sheet.setTitle(QStringLiteral("Mesh"));
+    if (!sheet.save(QStringLiteral("mesh.pdf")))
+        return; // the log says why
+    sheet.print(printer);
+}
