@@ -141,7 +141,7 @@ QString defaultSetOf(const Members &catalogue)
     return file;
 }
 
-QStringList acceleratorsOf(const Members &action)
+QStringList acceleratorsOf(const Members &action, QStringList &warnings)
 {
     QStringList result;
     if (!action.has(Key::accelerators))
@@ -149,22 +149,19 @@ QStringList acceleratorsOf(const Members &action)
     const QJsonArray array = action.array(Key::accelerators);
     for (int i = 0; i < array.size(); ++i) {
         const QString place = element(action.at(Key::accelerators), i);
-        const QString text = array.at(i).toString();
         QString reason;
-        const std::optional<QString> canonical = canonicalHotkey(text, reason);
+        const std::optional<QString> hotkey = canonicalHotkey(array.at(i).toString(), reason);
         if (!array.at(i).isString())
             action.fault().report(place, QStringLiteral("is not a text"));
-        else if (!canonical)
-            action.fault().report(place, reason);
-        else if (*canonical != text) // would be another hotkey: they are compared as texts
-            action.fault().report(place,
-                                  QStringLiteral("'%1' is written '%2'").arg(text, *canonical));
-        result.append(text);
+        else if (hotkey)
+            result.append(*hotkey);
+        else
+            warnings.append(QStringLiteral("%1: %2; it is left out").arg(place, reason));
     }
     return result;
 }
 
-HostCatalogue::Action actionOf(const Members &members)
+HostCatalogue::Action actionOf(const Members &members, QStringList &warnings)
 {
     HostCatalogue::Action action;
     action.identifier.tableId = members.number(Key::table);
@@ -173,7 +170,7 @@ HostCatalogue::Action actionOf(const Members &members)
     action.contextId = members.number(Key::context);
     action.category = members.text(Key::category);
     action.momentary = members.has(Key::momentary) && members.flag(Key::momentary);
-    action.accelerators = acceleratorsOf(members);
+    action.accelerators = acceleratorsOf(members, warnings);
     return action;
 }
 
@@ -201,7 +198,7 @@ void readActions(const QJsonArray &array, HostCatalogue &catalogue, Fault &fault
     std::set<CUI::ActionIdentifier> identifiers;
     for (int i = 0; i < array.size() && !fault.found(); ++i) {
         const Members members(array.at(i), element(Key::actions, i), known, fault);
-        const HostCatalogue::Action action = actionOf(members);
+        const HostCatalogue::Action action = actionOf(members, catalogue.warnings);
         if (contextIds.count(action.contextId) == 0) {
             members.report(Key::context, QStringLiteral("there is no context %1")
                                                  .arg(QString::number(action.contextId)));
@@ -256,6 +253,8 @@ std::optional<HostCatalogue> HostCatalogue::parse(const QByteArray &json, const 
         error = QStringLiteral("%1: %2").arg(fileName, fault.text());
         return {};
     }
+    for (QString &warning : catalogue.warnings)
+        warning = QStringLiteral("%1: %2").arg(fileName, warning);
     return catalogue;
 }
 

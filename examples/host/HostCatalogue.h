@@ -27,6 +27,7 @@ struct HostCatalogue {
         unsigned long contextId = 0;
         QString category;
         bool momentary = false;
+        /// In portable text form, in whatever spelling the file has them.
         QStringList accelerators;
     };
 
@@ -37,6 +38,9 @@ struct HostCatalogue {
     std::vector<Context> contexts;
     /// In the order of the file, each with an identifier of its own and a context that exists.
     std::vector<Action> actions;
+    /// A line with the file, the place and the reason for each accelerator that was left out, since
+    /// it names no single key combination.
+    QStringList warnings;
 
     /// The contexts that count everywhere, in the order in which the application asks them.
     std::vector<unsigned long> everywhere() const;

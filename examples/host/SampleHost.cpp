@@ -3,6 +3,8 @@
 #include "HostActionRegistry.h"
 #include "HostTranslations.h"
 
+#include <UiCustomizations/QvelMessageLog.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -38,6 +40,8 @@ bool SampleHost::load()
     const std::optional<HostCatalogue> catalogue = HostCatalogue::load(file, m_errorText);
     if (!catalogue)
         return false;
+    for (const QString &warning : catalogue->warnings)
+        CUI::QvelMessageLog::getInstance().logWarningMessage(warning);
     auto ownedPaths = std::make_unique<HostPathManager>(m_hostDirectory, m_userDirectory,
                                                         catalogue->defaultSet, m_record);
     const QString defaultSet = ownedPaths->getDefaultConfigurationFile(CUI::ConfigType::HotkeySet);

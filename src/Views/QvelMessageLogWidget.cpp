@@ -52,13 +52,18 @@ void QvelMessageLogWidget::append(const QString &line)
     const QScrollBar *scrollBar = verticalScrollBar();
     const bool wasAtEnd = scrollBar->value() >= scrollBar->maximum();
 
+    // The format that the host has set, as QTextEdit::append() keeps it.
+    const QTextCursor user = textCursor();
+    const QTextCharFormat format = user.charFormat();
     QTextCursor end(document());
     end.movePosition(QTextCursor::End);
     end.beginEditBlock();
     if (!document()->isEmpty())
-        end.insertBlock();
-    end.insertText(asOneParagraph(line));
+        end.insertBlock(user.blockFormat(), format);
+    end.insertText(asOneParagraph(line), format);
     end.endEditBlock();
+    if (!user.hasSelection())
+        setCurrentCharFormat(format);
 
     if (wasAtEnd)
         verticalScrollBar()->setValue(verticalScrollBar()->maximum());

@@ -69,6 +69,7 @@ private Q_SLOTS:
     void menuEntriesWork();
     void menuGoesWithTheWidget();
     void appendsLoggedLinesAsPlainParagraphs();
+    void appendsInTheColourOfTheHost();
     void followsItsEnd();
 };
 
@@ -199,6 +200,20 @@ void TestMessageLogWidget::menuGoesWithTheWidget()
         delete log;
     }));
     QVERIFY(seen.isNull());
+}
+
+void TestMessageLogWidget::appendsInTheColourOfTheHost()
+{
+    QvelMessageLogWidget log;
+    for (const auto color : {Qt::red, Qt::blue}) {
+        log.setTextColor(color);
+        log.append(s("line"));
+        log.append(s("another"));
+        QTextCursor cursor(log.document()->lastBlock());
+        cursor.movePosition(QTextCursor::EndOfBlock);
+        QCOMPARE(cursor.charFormat().foreground().color(), QColor(color));
+        QCOMPARE(log.textColor(), QColor(color));
+    }
 }
 
 void TestMessageLogWidget::appendsLoggedLinesAsPlainParagraphs()
