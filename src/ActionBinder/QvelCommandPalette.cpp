@@ -105,7 +105,7 @@ void QvelCommandPalette::Private::build()
     m_message->setTextFormat(Qt::PlainText);
     m_message->setWordWrap(true);
     search->installEventFilter(q);
-    q->setFrameStyle(QFrame::Box | QFrame::Plain); // the window has no frame
+    q->setFrameStyle(int{QFrame::Box} | int{QFrame::Plain}); // the window has no frame
     auto *layout = new QVBoxLayout(q);
     m_field = new QStackedLayout;
     m_field->addWidget(search);

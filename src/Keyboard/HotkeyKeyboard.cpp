@@ -165,7 +165,7 @@ void HotkeyKeyboard::Private::updateStates()
     for (Key &key : keys) {
         const bool isShifted = (modifiers & int{Qt::ShiftModifier}) != 0;
         const int hotkeyKey = layout.hotkeyKey(key.code, isShifted);
-        key.isHeld = (key.modifier & modifiers) != 0;
+        key.isHeld = (static_cast<int>(key.modifier) & modifiers) != 0;
         const QKeySequence pressed(hotkeyKey | modifiers);
         const bool makesHotkey = KeyNames::canBeHotkey(hotkeyKey | modifiers);
         key.hotkey = makesHotkey ? pressed.toString(QKeySequence::PortableText) : QString();

@@ -43,6 +43,7 @@ public:
     /// An action that has the hotkey of a key. The store may have another text for the same keys.
     using Holder = HotkeyFinding::Holder;
 
+    /// A key of the picture. A value, as of the last change of the keyboard.
     struct Key {
         /// As in KeyboardLayout.
         int code = 0;
@@ -59,6 +60,7 @@ public:
         QString hotkeyLabel;
         /// The hotkey, in the portable form; empty in the state NoHotkey.
         QString hotkey;
+        /// What the key is good for, together with the modifiers that are chosen.
         State state = State::NoHotkey;
         /// What the key stands for, of Shift, Control and Alt; none for other keys.
         Qt::KeyboardModifier modifier = Qt::NoModifier;
@@ -68,11 +70,14 @@ public:
         std::vector<Holder> holders;
     };
 
+    /// A keyboard of @p layout without hotkeys: each key that makes one is free or reserved.
     explicit HotkeyKeyboard(const KeyboardLayout &layout = KeyboardLayout());
     ~HotkeyKeyboard();
     Q_DISABLE_COPY(HotkeyKeyboard)
 
+    /// The shape of the keyboard and the characters of its keys.
     const KeyboardLayout &layout() const;
+    /// Replaces the layout; contexts, options, modifiers and hotkeys stay.
     void setLayout(const KeyboardLayout &layout);
 
     /// The contexts whose actions count; with none, which is so at first, those of all contexts do.
@@ -86,6 +91,7 @@ public:
     /// Those of Shift, Control and Alt that are pressed together with each key; others are ignored.
     /// None at first.
     void setModifiers(Qt::KeyboardModifiers modifiers);
+    /// The modifiers that are chosen.
     Qt::KeyboardModifiers modifiers() const;
 
     /// Takes over the hotkeys in effect.

@@ -28,8 +28,8 @@ public:
     /// The characters of a key, 0 where it types none. For a dead key, those are the accents alone;
     /// for the point of the keypad, what it types while Num Lock is on.
     struct Characters {
-        char32_t plain = 0;
-        char32_t shifted = 0;
+        char32_t plain = 0; ///< without a modifier
+        char32_t shifted = 0; ///< with Shift
     };
 
     /// The layout of the USA.
@@ -48,9 +48,12 @@ public:
     /// The built-in layout of that name; nothing when there is none.
     static std::optional<KeyboardLayout> named(const QString &name);
 
+    /// The shape of the keyboard.
     Shape shape() const { return m_shape; }
+    /// Sets the shape, whatever the characters say. Characters of keys that it lacks stay.
     void setShape(Shape shape) { m_shape = shape; }
 
+    /// What the key of that code types; 0 and 0 for keys that type nothing and unknown codes.
     Characters characters(int code) const;
 
     /// The key of the hotkeys that a key makes, as a Qt::Key with Qt::KeypadModifier for keys of

@@ -53,6 +53,7 @@ public:
     ~HotkeyAudit();
     /// An audit can be moved; what was moved from can only be destroyed or assigned to.
     HotkeyAudit(HotkeyAudit &&other) noexcept;
+    /// Takes over the findings of @p other, which can then only be destroyed or assigned to.
     HotkeyAudit &operator=(HotkeyAudit &&other) noexcept;
 
     /// By severity, the worst first, then by kind, key and identifier.

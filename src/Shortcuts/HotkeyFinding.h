@@ -38,8 +38,8 @@ struct CUI_CORE_EXPORT HotkeyFinding {
 
     /// An action, its context, and the hotkey of it that the finding is about.
     struct Holder {
-        ActionIdentifier action;
-        unsigned long contextId = 0;
+        ActionIdentifier action; ///< who holds the hotkey
+        unsigned long contextId = 0; ///< the context of the action
         QString hotkey; ///< as the store has it; empty where the finding is about none
     };
 
@@ -52,7 +52,9 @@ struct CUI_CORE_EXPORT HotkeyFinding {
         ActionIdentifier action;
     };
 
+    /// What was found.
     Kind kind = Kind::HeldTwice;
+    /// severityOf() of the kind.
     Severity severity = Severity::Note;
     /// The key in portable form; a text that names none as it is. Of two hotkeys the first; for
     /// HotkeyLost those of the base, joined with ", "; empty for NearLimit.

@@ -194,7 +194,7 @@ void KeyboardChoosers::retranslate()
     m_shapes->setAccessibleName(m_shapeLabel->text());
     m_shapes->setItemText(0, tr("Of the layout in use"));
     for (const auto &[modifier, button] : m_modifiers) {
-        QString name = QKeySequence(modifier).toString(QKeySequence::NativeText);
+        QString name = QKeySequence(static_cast<int>(modifier)).toString(QKeySequence::NativeText);
         name.chop(1); // a plus sign follows it
         button->setText(name);
     }

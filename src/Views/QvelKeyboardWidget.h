@@ -50,10 +50,12 @@ public:
     /// The contexts whose hotkeys are shown; empty for all, also for those that are registered
     /// later. Ids that are not registered show nothing.
     void setContexts(const std::vector<unsigned long> &contexts);
+    /// The contexts as they were set; empty for all.
     const std::vector<unsigned long> &contexts() const;
 
     /// The modifiers that are chosen, of Shift, Control and Alt.
     void setModifiers(Qt::KeyboardModifiers modifiers);
+    /// The modifiers that are shown.
     Qt::KeyboardModifiers modifiers() const;
 
     /// Shows this layout in place of the one in use.
@@ -81,6 +83,7 @@ protected:
     void changeEvent(QEvent *event) override;
     /// Reads what the widget has not followed while it was hidden.
     void showEvent(QShowEvent *event) override;
+    /// Stops following held modifiers while the widget is hidden.
     void hideEvent(QHideEvent *event) override;
 
 private:
