@@ -83,6 +83,7 @@ public:
     /// An index beyond the end changes nothing. A later remedy for a step replaces an earlier one.
     /// The effects stay those of the set as it is: a report on steps() says what remedies achieve.
     /// @{
+
     /// Leaves the step in the set as it is, which is the remedy of every step at first.
     void keep(std::size_t entry);
     /// Leaves the step out.
