@@ -6,10 +6,10 @@
 #include "LazyLog.h"
 #include "LegacyKeyboardFile.h"
 #include "RecordedSteps.h"
-#include "SaveFileCommit.h"
+#include "WholeFile.h"
 
+#include <QBuffer>
 #include <QDir>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -78,10 +78,11 @@ bool convert(const QString &in, const QString &out)
     RecordedSteps::cancel(steps, 0);
     dropUnwritable(steps);
 
-    QSaveFile file(out);
-    if (!file.open(QIODevice::WriteOnly)
-        || !HotkeySetFile::write(file, steps, HotkeySetFile::LockAttribute::Omit)
-        || !commitWhole(file))
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    WholeFile file(out);
+    if (!HotkeySetFile::write(buffer, steps, HotkeySetFile::LockAttribute::Omit) || !file.open()
+        || !file.write(buffer.data()))
         return fail(QStringLiteral("Could not open '%1' to store the results of conversion."), out);
     return HotkeyFileInput(out).validate(HotkeyFileInput::Kind::Set);
 }

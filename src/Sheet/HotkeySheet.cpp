@@ -4,16 +4,15 @@
 #include "ICuiActionManager.h"
 #include "QvelMessageLog.h"
 #include "QvelShortcutManager.h"
-#include "SaveFileCommit.h"
 #include "SheetHtml.h"
 #include "SheetPdf.h"
 #include "SheetText.h"
+#include "WholeFile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
 #include <QLocale>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <utility>
@@ -158,9 +157,8 @@ bool HotkeySheet::save(const QString &path, const QPageSize &pageSize) const
                                                               : toCsv();
     if (contents.isEmpty())
         return false; // the log has the reason already
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()
-        || !commitWhole(file))
+    WholeFile file(path);
+    if (!file.open() || !file.write(contents))
         return fail(file.errorString());
     return true;
 }

@@ -12,14 +12,13 @@
 #include "LoadResult.h"
 #include "PresetMetadata.h"
 #include "RecordedSteps.h"
-#include "SaveFileCommit.h"
+#include "WholeFile.h"
 #include "XmlError.h"
 
 #include <QBuffer>
 #include <QDebug>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <optional>
@@ -71,8 +70,8 @@ const QString setReadingFailed =
 std::optional<QByteArray> writeSteps(const QString &path,
                                      const std::vector<ShortcutTransformation> &steps)
 {
-    QSaveFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::WriteOnly))
+    WholeFile file(path);
+    if (path.isEmpty() || !file.open())
         return {};
     if (const ShortcutTransformation *step = HotkeySetFile::firstUnwritable(steps)) {
         logUnwritable(path, step->shortcut(), step->actionId());
@@ -81,7 +80,7 @@ std::optional<QByteArray> writeSteps(const QString &path,
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     if (!HotkeySetFile::write(buffer, steps, HotkeySetFile::LockAttribute::WriteUnlocked)
-        || file.write(buffer.data()) != buffer.size() || !commitWhole(file))
+        || !file.write(buffer.data()))
         return {};
     return buffer.data();
 }
@@ -120,15 +119,17 @@ bool QvelShortcutManager::saveBase(const QString &path) const
 {
     if (path.isEmpty())
         return false;
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    WholeFile file(path);
+    if (!file.open())
         return false;
     const auto entries = fileEntries(baseShortcuts);
     if (const BaseHotkeyFile::Entry *entry = BaseHotkeyFile::firstUnwritable(entries)) {
         logUnwritable(path, entry->shortcuts.join(QLatin1String(", ")), entry->actionId);
         return false;
     }
-    if (!BaseHotkeyFile::write(file, entries) || !commitWhole(file))
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!BaseHotkeyFile::write(buffer, entries) || !file.write(buffer.data()))
         return false;
     if (!validateShortcuts(path))
         qDebug("Generated shortcuts file doesn't conform to the schema defined in "

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QSaveFile>
+#include <QString>
+
+namespace CUI {
+
+/// A file that is written as a whole, or stays as it was.
+///
+/// Where the directory does not let the file be replaced, though the file itself can be written (a
+/// directory without write permission, a file that is a mount point), it is written in place as a
+/// last resort. The log then has a warning, since a crash in between would leave it half written.
+class WholeFile
+{
+public:
+    /// Nothing is opened or written yet.
+    explicit WholeFile(const QString &path);
+
+    /// False when the file can be neither replaced nor written in place.
+    bool open();
+
+    /// Replaces what the file holds; needs an open(), and can be called once. False, with the old
+    /// contents kept, when not all of it could be written.
+    bool write(const QByteArray &contents);
+
+    /// Why open() or write() has failed.
+    QString errorString() const { return m_error; }
+
+private:
+    bool writeInPlace(const QByteArray &contents);
+
+    QString m_path;
+    QSaveFile m_replacement;
+    QString m_error;
+};
+
+} // namespace CUI
