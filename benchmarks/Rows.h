@@ -25,6 +25,7 @@ void addPresetRows(Workload &workload);
 void addEditorRows(Workload &workload, Stages &stages);
 void addTypingRows(Stages &stages);
 void addTableRows(Stages &stages);
+void addFindingRows(Stages &stages);
 
 /// Registers a row that is measured in that many rounds. @p rival says what it is compared with.
 template <typename Measure>

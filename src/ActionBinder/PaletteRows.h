@@ -20,7 +20,6 @@ public:
     /// The last one first.
     void setRecent(const std::vector<ActionIdentifier> &actions);
 
-    QvelActionItemModel *actions() const { return m_model; }
     /// The empty identifier for an invalid index.
     ActionIdentifier actionAt(const QModelIndex &index) const;
 

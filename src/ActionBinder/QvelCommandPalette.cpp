@@ -1,11 +1,10 @@
 #include "QvelCommandPalette.h"
 
+#include "ICuiActionManager.h"
 #include "PaletteDelegate.h"
 #include "PaletteHotkeyEdit.h"
 #include "PaletteRows.h"
 #include "QvelActionBinder.h"
-#include "QvelActionItem.h"
-#include "VelAction.h"
 
 #include <QAction>
 #include <QApplication>
@@ -249,9 +248,8 @@ void QvelCommandPalette::Private::select(int row)
 QString QvelCommandPalette::Private::reasonOf(const ActionIdentifier &action) const
 {
     const QAction *bound = binder.isNull() ? nullptr : binder->actionOf(action);
-    const auto *item = rows->actions()->itemFromVelAction(Model::ActionColumn, action);
-    const VelAction *known =
-            item != nullptr ? rows->actions()->velActionFromModelIdx(item->index()) : nullptr;
+    const ICuiActionManager *registry = ICuiActionManager::get();
+    const VelAction *known = registry != nullptr ? registry->getAction(action) : nullptr;
     if (known != nullptr && known->momentary())
         return tr("It acts only while its hotkey is held.");
     const QString told = reason ? reason(action) : QString();
