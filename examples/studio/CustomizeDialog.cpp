@@ -1,5 +1,6 @@
 #include "CustomizeDialog.h"
 
+#include "HistoryButtons.h"
 #include "Icons.h"
 #include "SetBars.h"
 #include "SheetMenu.h"
@@ -7,6 +8,7 @@
 #include <UiCustomizations/IPathManager.h>
 #include <UiCustomizations/QvelActionItemModel.h>
 #include <UiCustomizations/QvelConflictsWidget.h>
+#include <UiCustomizations/QvelHotkeyHistory.h>
 #include <UiCustomizations/QvelKeyboardWidget.h>
 #include <UiCustomizations/QvelMenusWidget.h>
 #include <UiCustomizations/QvelMessageLog.h>
@@ -23,6 +25,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QTreeView>
+#include <QUndoView>
 #include <QVBoxLayout>
 
 namespace Studio {
@@ -64,7 +67,12 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     // Sorting the list of actions sorts its model, which the hotkeys' rows would follow.
     m_tabs->addTab(makeMenusView(m_menuModel), tr("&Menus"));
     m_tabs->addTab(m_log, tr("&Log"));
+    auto *history = new CUI::QvelHotkeyHistory(&manager, this);
+    auto *historyView = new QUndoView(history);
+    historyView->setEmptyLabel(tr("Before the first edit"));
+    m_tabs->addTab(historyView, tr("H&istory"));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    new HistoryButtons(*history, buttons, this);
     QPushButton *sheet = buttons->addButton(tr("&Sheet"), QDialogButtonBox::ActionRole);
     sheet->setMenu(new SheetMenu(&manager, m_editor, sheet));
     sheet->setAutoDefault(false);

@@ -4,10 +4,12 @@
 #include "Text.h"
 
 #include <UiCustomizations/QvelShortcutManager.h>
+#include <UiCustomizations/QvelShortcutsWidget.h>
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTreeWidget>
@@ -77,6 +79,7 @@ private Q_SLOTS:
     void asksAboutAChangedFile_data();
     void asksAboutAChangedFile();
     void reportsWhatNoLongerApplies();
+    void undoesAndRedoes();
 
 private:
     void start(const Steps &steps);
@@ -179,6 +182,36 @@ void CustomizeDialogTest::reportsWhatNoLongerApplies()
     Steps saved;
     QVERIFY(QvelShortcutManager::readTransforms(m_set, saved));
     QCOMPARE(textOf(saved), textOf(steps));
+}
+
+void CustomizeDialogTest::undoesAndRedoes()
+{
+    start({});
+    const QString before = store().getShortcutsFromActionId(saveScene);
+    store().assignShortcut(saveScene, s("F9"), s("Save Scene"));
+    const QString after = store().getShortcutsFromActionId(saveScene);
+    QVERIFY(after != before);
+    QString tip;
+    for (const auto *button : m_dialog->findChildren<QPushButton *>()) {
+        if (button->text() == s("&Undo"))
+            tip = button->toolTip();
+    }
+    QCOMPARE(tip, store().currentTransformations().back().toString() + s(" (Ctrl+Z)"));
+    click(m_dialog, "Undo");
+    QCOMPARE(store().getShortcutsFromActionId(saveScene), before);
+    QVERIFY(!store().isUserModified());
+    QTest::keyClick(m_dialog, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(store().getShortcutsFromActionId(saveScene), after);
+
+    // The field of a new hotkey takes the key as one.
+    m_dialog->editor()->setCurrentAction(saveScene, true);
+    auto *field = m_dialog->findChild<QLineEdit *>(s("HotkeyEditor_shortcutLineEdit"));
+    QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(field->text(), s("Ctrl+Z"));
+    QCOMPARE(store().getShortcutsFromActionId(saveScene), after);
+    m_dialog->tabs()->setFocus();
+    QTest::keyClick(m_dialog->tabs(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(store().getShortcutsFromActionId(saveScene), before);
 }
 
 QTEST_MAIN(CustomizeDialogTest)
