@@ -1,8 +1,11 @@
 #include "KeyboardEdits.h"
 
 #include "ConflictDialogs.h"
+#include "HotkeyEditGroup.h"
+#include "HotkeyEdits.h"
 #include "ICuiActionManager.h"
 #include "JoinedHotkeys.h"
+#include "KeyNames.h"
 #include "QShortcutsList.h"
 #include "QvelShortcutManager.h"
 #include "VelAction.h"
@@ -49,26 +52,31 @@ void KeyboardEdits::assign(const ActionIdentifier &identifier, const QString &ho
         ConflictDialogs::reportFullList(m_window->window());
         return;
     }
-    const Holders losers = takenFrom({{identifier, action->contextId(), hotkey}}, hotkey);
     const QPointer<QWidget> window = m_window;
-    if (!confirm(losers, hotkey) || window == nullptr)
-        return;
-    for (const Holder &loser : losers)
-        unassign(loser);
-    m_manager->assignShortcut(identifier, hotkey, nameOf(identifier));
+    if (confirm(takenFrom({{identifier, action->contextId(), hotkey}}, hotkey), hotkey)
+        && window != nullptr)
+        HotkeyEdits::give(*m_manager, identifier, hotkey, nameOf(identifier));
 }
 
-void KeyboardEdits::move(const Holders &holders, const QString &hotkey)
+void KeyboardEdits::move(const QString &from, const Holders &holders, const QString &to)
 {
-    const Holders losers = takenFrom(holders, hotkey);
     const QPointer<QWidget> window = m_window;
-    if (!confirm(losers, hotkey) || window == nullptr)
+    if (!confirm(takenFrom(holders, to), to) || window == nullptr)
         return;
-    for (const Holder &loser : losers)
-        unassign(loser);
+    const auto native = [](const QString &hotkey) {
+        return KeyNames::keyOf(hotkey).toString(QKeySequence::NativeText);
+    };
+    const HotkeyEditGroup group(m_manager, tr("Move %1 to %2").arg(native(from), native(to)));
+    for (const Holder &holder : holders)
+        HotkeyEdits::take(*m_manager, holder.action, holder.hotkey, nameOf(holder.action));
     for (const Holder &holder : holders) {
-        unassign(holder);
-        m_manager->assignShortcut(holder.action, hotkey, nameOf(holder.action));
+        const ActionIdentifier owner = m_manager->getActionIdFromShortcut(to, holder.contextId);
+        // Of actions that share a key within one context, the first has it.
+        const bool isMoved =
+                std::any_of(holders.begin(), holders.end(),
+                            [&owner](const Holder &other) { return other.action == owner; });
+        if (!isMoved)
+            HotkeyEdits::give(*m_manager, holder.action, to, nameOf(holder.action));
     }
 }
 
@@ -93,11 +101,6 @@ bool KeyboardEdits::confirm(const Holders &losers, const QString &hotkey) const
         names.append(nameOf(loser.action));
     return names.isEmpty()
            || ConflictDialogs::confirmReassignment(m_window->window(), hotkey, names);
-}
-
-void KeyboardEdits::unassign(const Holder &holder)
-{
-    m_manager->unassignShortcut(holder.action, holder.hotkey, nameOf(holder.action));
 }
 
 } // namespace CUI

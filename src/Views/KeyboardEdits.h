@@ -2,6 +2,8 @@
 
 #include "HotkeyKeyboard.h"
 
+#include <QCoreApplication>
+
 class QWidget;
 
 namespace CUI {
@@ -11,6 +13,8 @@ class QvelShortcutManager;
 /// Edits by which keys are filled: they ask before a hotkey is taken from another action.
 class KeyboardEdits
 {
+    Q_DECLARE_TR_FUNCTIONS(CUI::QvelKeyboardWidget)
+
 public:
     using Holders = std::vector<HotkeyKeyboard::Holder>;
 
@@ -19,13 +23,13 @@ public:
 
     /// Gives the hotkey to the action, in its context.
     void assign(const ActionIdentifier &action, const QString &hotkey);
-    /// Gives the hotkey to each of the actions in place of the one that it has now.
-    void move(const Holders &holders, const QString &hotkey);
+    /// Gives the hotkey @p to to each of the actions in place of the one that it has now, as one
+    /// command of a QvelHotkeyHistory. @p from names that in the command's text.
+    void move(const QString &from, const Holders &holders, const QString &to);
 
 private:
     Holders takenFrom(const Holders &holders, const QString &hotkey) const;
     bool confirm(const Holders &losers, const QString &hotkey) const;
-    void unassign(const HotkeyKeyboard::Holder &holder);
 
     QvelShortcutManager *m_manager;
     QWidget *m_window;

@@ -130,7 +130,7 @@ void QvelKeyboardWidget::Private::connectView()
                      });
     QObject::connect(
             view, &KeyboardView::hotkeyDropped, q, [this](const QString &from, const QString &to) {
-                QTimer::singleShot(0, q, [=] { edits.move(keyboard.holdersOf(from), to); });
+                QTimer::singleShot(0, q, [=] { edits.move(from, keyboard.holdersOf(from), to); });
             });
     QObject::connect(choosers, &KeyboardChoosers::contextsChosen, q, [this] {
         keyboard.setContexts(choosers->contexts());
@@ -224,7 +224,8 @@ void QvelKeyboardWidget::Private::showMenu(const QPoint &position)
     if (!moved.isEmpty() && moved != hotkey) {
         const QString movedName = KeyNames::keyOf(moved).toString(QKeySequence::NativeText);
         add(tr("Move %1 Here").arg(movedName), [this, hotkey] {
-            edits.move(keyboard.holdersOf(std::exchange(moved, QString())), hotkey);
+            const QString from = std::exchange(moved, QString());
+            edits.move(from, keyboard.holdersOf(from), hotkey);
         });
     }
     menu->popup(position);

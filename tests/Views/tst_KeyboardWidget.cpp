@@ -5,6 +5,7 @@
 
 #include <UiCustomizations/QvelActionItem.h>
 #include <UiCustomizations/QvelActionItemModel.h>
+#include <UiCustomizations/QvelHotkeyHistory.h>
 #include <UiCustomizations/QvelKeyboardWidget.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
@@ -262,17 +263,21 @@ void KeyboardWidgetTest::keysAreMoved()
 {
     QFETCH(std::vector<unsigned long>, contexts);
     m_store->assignShortcut(open, s("Ctrl+D"), QString());
+    QvelHotkeyHistory history(m_store.get());
     m_widget->setContexts(contexts);
     m_widget->setModifiers(Qt::ControlModifier);
     QTest::qWait(0);
-    answer(QMessageBox::Yes); // about open, which loses the key where all count
+    if (contexts.empty()) // open loses the key
+        answer(QMessageBox::Yes);
     drop(HotkeyDrag::ofHotkey(s("Ctrl+S")), "D");
     QCOMPARE(m_asked.isEmpty(), contexts.size() == 1);
     QTEST((QStringList{hotkeys(save), hotkeys(open), hotkeys(spin)}.join(QLatin1Char(';')))
                   .remove(QLatin1Char(' ')),
           "hotkeys");
-    m_asked = s("no box");
-    QTest::qWait(0);
+    history.undo();
+    QCOMPARE(hotkeys(open), s("Ctrl+D"));
+    QCOMPARE(hotkeys(spin), s("Ctrl+S, Q"));
+    QVERIFY(!history.canUndo());
 }
 
 void KeyboardWidgetTest::menuMovesAndAssigns()

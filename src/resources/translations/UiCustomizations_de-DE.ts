@@ -545,6 +545,10 @@
         <source>Actions of the key</source>
         <translation>Aktionen der Taste</translation>
     </message>
+    <message>
+        <source>Move %1 to %2</source>
+        <translation>%1 nach %2 verschieben</translation>
+    </message>
 </context>
 <context>
     <name>CUI::QvelMessageLogWidget</name>

@@ -545,6 +545,10 @@
         <source>Actions of the key</source>
         <translation>Actions de la touche</translation>
     </message>
+    <message>
+        <source>Move %1 to %2</source>
+        <translation>Déplacer %1 vers %2</translation>
+    </message>
 </context>
 <context>
     <name>CUI::QvelMessageLogWidget</name>

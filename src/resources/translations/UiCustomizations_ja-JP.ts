@@ -545,6 +545,10 @@
         <source>Actions of the key</source>
         <translation>キーのアクション</translation>
     </message>
+    <message>
+        <source>Move %1 to %2</source>
+        <translation>%1 を %2 に移動</translation>
+    </message>
 </context>
 <context>
     <name>CUI::QvelMessageLogWidget</name>

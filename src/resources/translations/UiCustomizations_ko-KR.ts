@@ -545,6 +545,10 @@
         <source>Actions of the key</source>
         <translation>키의 동작</translation>
     </message>
+    <message>
+        <source>Move %1 to %2</source>
+        <translation>%1을(를) %2(으)로 이동</translation>
+    </message>
 </context>
 <context>
     <name>CUI::QvelMessageLogWidget</name>

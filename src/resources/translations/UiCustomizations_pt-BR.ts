@@ -545,6 +545,10 @@
         <source>Actions of the key</source>
         <translation>Ações da tecla</translation>
     </message>
+    <message>
+        <source>Move %1 to %2</source>
+        <translation>Mover %1 para %2</translation>
+    </message>
 </context>
 <context>
     <name>CUI::QvelMessageLogWidget</name>

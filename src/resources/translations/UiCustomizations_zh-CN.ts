@@ -545,6 +545,10 @@
         <source>Actions of the key</source>
         <translation>按键的操作</translation>
     </message>
+    <message>
+        <source>Move %1 to %2</source>
+        <translation>将 %1 移到 %2</translation>
+    </message>
 </context>
 <context>
     <name>CUI::QvelMessageLogWidget</name>
