@@ -32,13 +32,18 @@ constexpr double gap = 6;
 struct Sign {
     int code;
     const char *text;
+    /// A name that is longer than this gives way to the sign.
+    int longestName = 0;
 };
 
-// What stands on the caps of keys whose names would not fit.
-constexpr std::array<Sign, 11> signs{{
+// What stands on the caps of keys whose names may not fit.
+constexpr int narrowCap = 7;
+constexpr std::array<Sign, 13> signs{{
         {69, "Num"},
         {70, "Scroll"},
         {KeyCodes::backspace, "⌫"},
+        {104, "⇞", narrowCap}, // the page keys
+        {109, "⇟", narrowCap},
         {103, "↑"},
         {105, "←"},
         {106, "→"},
@@ -92,11 +97,12 @@ QString nameOfKey(int code, int key)
     return text;
 }
 
-QString signOf(int code)
+QString capOf(int code, const QString &name)
 {
-    const auto *const found = std::find_if(signs.begin(), signs.end(),
-                                           [code](const Sign &sign) { return sign.code == code; });
-    return found != signs.end() ? QString::fromUtf8(found->text) : QString();
+    const auto *const sign = std::find_if(signs.begin(), signs.end(), [&](const Sign &known) {
+        return known.code == code && name.size() > known.longestName;
+    });
+    return sign != signs.end() ? QString::fromUtf8(sign->text) : name;
 }
 
 void label(Key &key, const KeyboardLayout &layout)
@@ -104,8 +110,7 @@ void label(Key &key, const KeyboardLayout &layout)
     const int hotkeyKey = layout.hotkeyKey(key.code);
     const KeyboardLayout::Characters typed = layout.characters(key.code);
     if (typed.plain == 0 || key.code == KeyCodes::keypadPoint) {
-        const QString sign = signOf(key.code);
-        key.label = sign.isEmpty() ? nameOfKey(key.code, hotkeyKey) : sign;
+        key.label = capOf(key.code, nameOfKey(key.code, hotkeyKey));
         return;
     }
     key.label = textOf(typed.plain);
