@@ -2,6 +2,7 @@
 #include "KeyCodes.h"
 #include "NativeKeys.h"
 #include "QvelActionBinder.h"
+#include "QvelConflictsWidget.h"
 #include "QvelShortcutManager.h"
 #include "Text.h"
 
@@ -315,6 +316,15 @@ void TestKeysOfXServer::layoutsThatAreBuiltIn()
     QTRY_COMPARE_WITH_TIMEOUT(m_window.presses.size(), expected.size(), patience);
     for (int i = 0; i < expected.size(); ++i)
         QCOMPARE(m_window.presses.at(i).capture.combination, expected.at(i));
+    // What is recorded can be typed.
+    const std::optional<std::set<int>> typeable = QvelConflictsWidget::typeableKeys();
+    QVERIFY(typeable);
+    for (int combination : qAsConst(expected)) {
+        const int key = combination & ~int(Qt::KeyboardModifierMask);
+        QVERIFY2(key == 0 || typeable->count(key) == 1, QByteArray::number(key, 16));
+    }
+    const bool needsAltGr = layout == s("de") || layout == s("fr");
+    QVERIFY(!needsAltGr || typeable->count(Qt::Key_BracketLeft) == 0);
 }
 
 void TestKeysOfXServer::keypad_data()
