@@ -256,8 +256,7 @@ void HotkeySetCommands::leaveSet()
 
 // Asking before changes go
 
-bool HotkeySetCommands::fileNotFoundDoUserPrompt(const Preset &preset, bool *result,
-                                                 Preset *replacement)
+bool HotkeySetCommands::fileNotFoundDoUserPrompt(const Preset &preset, bool *result)
 {
     if (!preset.isValid() || QFile::exists(preset.path()))
         return false;
@@ -271,12 +270,11 @@ bool HotkeySetCommands::fileNotFoundDoUserPrompt(const Preset &preset, bool *res
             const QSignalBlocker blocker(m_comboBox);
             m_comboBox->removePreset(missing);
             m_comboBox->setCurrentPreset(saved);
-            *replacement = saved;
         }
         break;
     }
     case QMessageBox::Discard:
-        *replacement = resetToDefault(missing);
+        resetToDefault(missing);
         *result = true;
         break;
     default:
@@ -285,7 +283,7 @@ bool HotkeySetCommands::fileNotFoundDoUserPrompt(const Preset &preset, bool *res
     return true;
 }
 
-Preset HotkeySetCommands::resetToDefault(const Preset &missing)
+void HotkeySetCommands::resetToDefault(const Preset &missing)
 {
     unmarkModified(true);
     const QString path = installedPaths().getDefaultConfigurationFile(ConfigType::HotkeySet);
@@ -294,7 +292,6 @@ Preset HotkeySetCommands::resetToDefault(const Preset &missing)
     const QSignalBlocker blocker(m_comboBox);
     m_comboBox->removePreset(missing);
     m_comboBox->setCurrentPreset(preset);
-    return preset;
 }
 
 bool HotkeySetCommands::maybeSaveChanges()
@@ -303,8 +300,7 @@ bool HotkeySetCommands::maybeSaveChanges()
         return true;
     const QPointer<HotkeySetCommands> self(this);
     bool result = false;
-    Preset replacement;
-    if (fileNotFoundDoUserPrompt(m_currentPreset, &result, &replacement))
+    if (fileNotFoundDoUserPrompt(m_currentPreset, &result))
         return result;
     switch (HotkeySetDialogs::popupSaveChangesDlg(m_editor)) {
     case QMessageBox::Save:
@@ -323,8 +319,7 @@ bool HotkeySetCommands::maybeSaveChanges()
 bool HotkeySetCommands::maybeDiscardChanges()
 {
     bool result = false;
-    Preset replacement;
-    if (fileNotFoundDoUserPrompt(m_currentPreset, &result, &replacement))
+    if (fileNotFoundDoUserPrompt(m_currentPreset, &result))
         return result;
     if (HotkeySetDialogs::popupResetChangesDlg(m_editor) != QMessageBox::Discard)
         return false;

@@ -72,8 +72,8 @@ Q_SIGNALS:
 
 private:
     LoadResult loadPresetTransformations(const QString &path, Preset &preset) const;
-    bool fileNotFoundDoUserPrompt(const Preset &preset, bool *result, Preset *replacement);
-    Preset resetToDefault(const Preset &missing);
+    bool fileNotFoundDoUserPrompt(const Preset &preset, bool *result);
+    void resetToDefault(const Preset &missing);
     bool saveChanges(Preset &preset);
     bool saveAsChanges(Preset &preset);
     void convertLegacyShortcuts(const QString &path);

@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace CUI::RegularFile {
 
 std::optional<QByteArray> read(const QString &path, qint64 maximumSize)
@@ -11,7 +13,8 @@ std::optional<QByteArray> read(const QString &path, qint64 maximumSize)
     // Opening a pipe would wait for somebody to write to it.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return {};
-    return file.read(maximumSize + 1);
+    // Asked for more, the device would make room for all of it.
+    return file.read(std::min(file.size(), maximumSize) + 1);
 }
 
 } // namespace CUI::RegularFile
