@@ -12,6 +12,7 @@
 #include <QDir>
 
 #include <algorithm>
+#include <utility>
 
 namespace CUI::LegacyConversion {
 
@@ -85,6 +86,20 @@ bool convert(const QString &in, const QString &out)
         || !file.write(buffer.data()))
         return fail(QStringLiteral("Could not open '%1' to store the results of conversion."), out);
     return HotkeyFileInput(out).validate(HotkeyFileInput::Kind::Set);
+}
+
+bool readAssignments(const QString &path, Steps &steps)
+{
+    HotkeyFileInput file(path);
+    if (!file.validate(HotkeyFileInput::Kind::Legacy))
+        return false;
+    auto assignments = LegacyKeyboardFile::read(file.document(), ShortcutTransformation::Assign);
+    if (!assignments)
+        return false;
+    RecordedSteps::cancel(*assignments, 0);
+    dropUnwritable(*assignments);
+    steps = std::move(*assignments);
+    return true;
 }
 
 } // namespace CUI::LegacyConversion

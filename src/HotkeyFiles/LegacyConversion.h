@@ -1,5 +1,9 @@
 #pragma once
 
+#include "ShortcutTransformation.h"
+
+#include <vector>
+
 class QString;
 
 namespace CUI {
@@ -9,6 +13,9 @@ namespace LegacyConversion {
 
 /// QvelShortcutManager::convertLegacyShortcuts(), which documents it.
 bool convert(const QString &in, const QString &out);
+
+/// QvelShortcutManager::readLegacyShortcuts(), which documents it.
+bool readAssignments(const QString &path, std::vector<ShortcutTransformation> &steps);
 
 } // namespace LegacyConversion
 } // namespace CUI

@@ -199,6 +199,14 @@ public:
     /// follow its schema (logged as an error); @p steps is then unchanged. False as well when the
     /// file is damaged behind some steps, which @p steps then has.
     static bool readTransforms(const QString &path, std::vector<ShortcutTransformation> &steps);
+    /// The same, with what peekPresetMetadata() says of the file; opens it once.
+    static bool readTransforms(const QString &path, std::vector<ShortcutTransformation> &steps,
+                               bool &locked, QString &name);
+    /// Reads all hotkeys of a legacy keyboard file as assignments: what convertLegacyShortcuts()
+    /// would write if the legacy default file had none. False when the file cannot be opened or
+    /// does not follow its schema (logged as an error); @p steps is then unchanged.
+    static bool readLegacyShortcuts(const QString &path,
+                                    std::vector<ShortcutTransformation> &steps);
     /// Writes @p steps as they are as a hotkey set file that is not locked. False, with the old
     /// file untouched, when it cannot be written.
     static bool writeTransforms(const QString &path,

@@ -260,14 +260,29 @@ void QvelShortcutManager::applyStep(const ShortcutTransformation &step)
 bool QvelShortcutManager::readTransforms(const QString &path,
                                          std::vector<ShortcutTransformation> &steps)
 {
+    bool locked = false;
+    QString name;
+    return readTransforms(path, steps, locked, name);
+}
+
+bool QvelShortcutManager::readTransforms(const QString &path,
+                                         std::vector<ShortcutTransformation> &steps, bool &locked,
+                                         QString &name)
+{
     HotkeyFileInput file(path);
-    if (!file.validate(HotkeyFileInput::Kind::Set))
+    if (!PresetMetadata::peek(file, locked, name))
         return false;
     const HotkeySetFile::Content content = HotkeySetFile::read(file.document());
     steps = content.steps;
     if (content.error)
         partOf(setReadingFailed, path, *content.error);
     return !content.error;
+}
+
+bool QvelShortcutManager::readLegacyShortcuts(const QString &path,
+                                              std::vector<ShortcutTransformation> &steps)
+{
+    return LegacyConversion::readAssignments(path, steps);
 }
 
 bool QvelShortcutManager::writeTransforms(const QString &path,

@@ -7,17 +7,17 @@
 
 namespace HotkeyCtl {
 
-QString faultOf(const QString &path, Validation validate, const Session &session)
+QString faultOf(const QString &path, const Validation &validate, const Session &session)
 {
+    const int errorsBefore = session.log().errorCount();
+    if (validate(path))
+        return {};
     QFile file(path);
     // Opening a pipe would wait for somebody to write to it.
     if (QFileInfo(path).exists() && !QFileInfo(path).isFile())
         return QStringLiteral("cannot be opened: Is not a regular file");
     if (!file.open(QIODevice::ReadOnly))
         return QStringLiteral("cannot be opened: %1").arg(file.errorString());
-    const int errorsBefore = session.log().errorCount();
-    if (validate(path))
-        return {};
     if (session.log().errorCount() == errorsBefore)
         return QStringLiteral("cannot be validated");
     // The log's last line tells the fault and its place; the ones before it name the files.

@@ -1,15 +1,12 @@
 #include "Commands.h"
 
 #include "FileFault.h"
-#include "OutputFile.h"
 #include "Session.h"
 #include "SetSteps.h"
 #include "TextOutput.h"
 
 #include <QCommandLineParser>
-#include <QDir>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QTextStream>
 
 namespace HotkeyCtl {
@@ -19,42 +16,28 @@ namespace {
 using CUI::QvelShortcutManager;
 using Steps = std::vector<CUI::ShortcutTransformation>;
 
-/// Converts a legacy file as if the release had had no default hotkeys at all: each hotkey in it
-/// becomes an assignment.
-bool convertWithoutDefaults(const QString &path, const QString &out, const QDir &folder)
-{
-    std::unique_ptr<CUI::IPathManager> paths = std::make_unique<Host::HostPathManager>(
-            folder.path(), folder.path(), QString(), Host::HostPathManager::Record::InMemory);
-    const QDir legacy(paths->getLegacyHotkeyDirectory());
-    if (!folder.mkpath(legacy.path())
-        || !writeWhole(legacy.filePath(QStringLiteral("LegacyDefaultUI-2019.kbdx")), "<VLSK_KBD/>")
-                    .isEmpty())
-        return false;
-    CUI::IPathManager::set(paths);
-    const bool isConverted = QvelShortcutManager::convertLegacyShortcuts(path, out);
-    paths.reset();
-    CUI::IPathManager::set(paths);
-    return isConverted;
-}
+/// What a file holds, and what to call it.
+struct Contents {
+    Steps steps;
+    QString title;
+};
 
-std::optional<Steps> stepsOfLegacyFile(const QString &path)
+bool readSet(const QString &path, Contents &contents)
 {
-    const QTemporaryDir folder;
-    const QString set = folder.filePath(QStringLiteral("converted.hsx"));
-    if (!folder.isValid() || !convertWithoutDefaults(path, set, QDir(folder.path())))
-        return {};
-    return readSteps(set);
-}
-
-QString title(const QString &path, bool isLegacy)
-{
-    if (isLegacy)
-        return QStringLiteral("Legacy keyboard file '%1'").arg(QFileInfo(path).fileName());
     bool isLocked = false;
     QString name;
-    QvelShortcutManager::peekPresetMetadata(path, isLocked, name);
-    return QStringLiteral("Hotkey set '%1', %2")
-            .arg(name, isLocked ? QStringLiteral("locked") : QStringLiteral("not locked"));
+    if (!QvelShortcutManager::readTransforms(path, contents.steps, isLocked, name))
+        return false;
+    contents.title =
+            QStringLiteral("Hotkey set '%1', %2")
+                    .arg(name, isLocked ? QStringLiteral("locked") : QStringLiteral("not locked"));
+    return true;
+}
+
+bool readLegacy(const QString &path, Contents &contents)
+{
+    contents.title = QStringLiteral("Legacy keyboard file '%1'").arg(QFileInfo(path).fileName());
+    return QvelShortcutManager::readLegacyShortcuts(path, contents.steps);
 }
 
 ExitCode run(const QCommandLineParser &line, Session &session)
@@ -64,20 +47,18 @@ ExitCode run(const QCommandLineParser &line, Session &session)
         return session.wrongUsage(QStringLiteral("FILE is empty"));
     const bool isLegacy =
             QFileInfo(path).suffix().compare(QLatin1String("kbdx"), Qt::CaseInsensitive) == 0;
-    const QString fault = faultOf(path,
-                                  isLegacy ? &QvelShortcutManager::validateLegacyKbdx
-                                           : &QvelShortcutManager::validateShortcutsTransforms,
-                                  session);
+    Contents contents;
+    const QString fault = faultOf(
+            path,
+            [&](const QString &file) {
+                return isLegacy ? readLegacy(file, contents) : readSet(file, contents);
+            },
+            session);
     if (!fault.isNull())
         return session.problem(QStringLiteral("%1: %2").arg(path, fault));
-    const std::optional<Steps> steps = isLegacy ? stepsOfLegacyFile(path) : readSteps(path);
-    if (!steps) {
-        return session.problem(QStringLiteral("%1: cannot be read: %2")
-                                       .arg(path, session.log().lastError().simplified()));
-    }
-    session.out() << printable(title(path, isLegacy))
-                  << ", steps: " << static_cast<int>(steps->size()) << '\n';
-    for (const CUI::ShortcutTransformation &step : *steps)
+    session.out() << printable(contents.title)
+                  << ", steps: " << static_cast<int>(contents.steps.size()) << '\n';
+    for (const CUI::ShortcutTransformation &step : contents.steps)
         session.out() << stepLine(step, step.actionId().toString()) << '\n';
     return ExitCode::Done;
 }
