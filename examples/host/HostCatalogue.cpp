@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <set>
@@ -22,6 +23,7 @@ namespace Key {
 const QString defaultSet = QStringLiteral("defaultSet");
 const QString contexts = QStringLiteral("contexts");
 const QString actions = QStringLiteral("actions");
+const QString together = QStringLiteral("together");
 const QString id = QStringLiteral("id");
 const QString name = QStringLiteral("name");
 const QString everywhere = QStringLiteral("everywhere");
@@ -211,6 +213,37 @@ void readActions(const QJsonArray &array, HostCatalogue &catalogue, Fault &fault
     }
 }
 
+std::vector<unsigned long> partOf(const QJsonValue &value, const QString &place,
+                                  const HostCatalogue &catalogue, Fault &fault)
+{
+    std::vector<unsigned long> part;
+    if (!value.isArray())
+        fault.report(place, QStringLiteral("is not an array"));
+    const QJsonArray array = value.toArray();
+    for (int i = 0; i < array.size(); ++i) {
+        const double id = array.at(i).toDouble(-1);
+        const auto context = std::find_if(catalogue.contexts.begin(), catalogue.contexts.end(),
+                                          [id](const HostCatalogue::Context &known) {
+                                              return static_cast<double>(known.id) == id;
+                                          });
+        if (context == catalogue.contexts.end())
+            fault.report(element(place, i), QStringLiteral("is not the id of a context"));
+        else
+            part.push_back(context->id);
+    }
+    return part;
+}
+
+void readTogether(const Members &root, HostCatalogue &catalogue, Fault &fault)
+{
+    if (!root.has(Key::together))
+        return;
+    const QJsonArray array = root.array(Key::together);
+    for (int i = 0; i < array.size(); ++i)
+        catalogue.together.push_back(
+                partOf(array.at(i), element(Key::together, i), catalogue, fault));
+}
+
 QString lineAndColumn(const QByteArray &json, int offset)
 {
     const QByteArray before = json.left(qBound(0, offset, json.size()));
@@ -232,6 +265,15 @@ std::vector<unsigned long> HostCatalogue::everywhere() const
     return ids;
 }
 
+CUI::HotkeyAudit::Options HostCatalogue::auditOptions() const
+{
+    CUI::HotkeyAudit::Options options;
+    options.everywhere = everywhere();
+    options.isEverywhereOrdered = true;
+    options.together = together;
+    return options;
+}
+
 std::optional<HostCatalogue> HostCatalogue::parse(const QByteArray &json, const QString &fileName,
                                                   QString &error)
 {
@@ -244,11 +286,13 @@ std::optional<HostCatalogue> HostCatalogue::parse(const QByteArray &json, const 
     }
     Fault fault;
     const Members root(document.isObject() ? QJsonValue(document.object()) : QJsonValue(),
-                       QString(), {Key::defaultSet, Key::contexts, Key::actions}, fault);
+                       QString(), {Key::defaultSet, Key::contexts, Key::actions, Key::together},
+                       fault);
     HostCatalogue catalogue;
     catalogue.defaultSet = defaultSetOf(root);
     readContexts(root.array(Key::contexts), catalogue, fault);
     readActions(root.array(Key::actions), catalogue, fault);
+    readTogether(root, catalogue, fault);
     if (fault.found()) {
         error = QStringLiteral("%1: %2").arg(fileName, fault.text());
         return {};

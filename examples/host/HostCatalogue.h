@@ -1,6 +1,7 @@
 #pragma once
 
 #include <UiCustomizations/ActionIdentifier.h>
+#include <UiCustomizations/HotkeyAudit.h>
 
 #include <QByteArray>
 #include <QString>
@@ -38,12 +39,18 @@ struct HostCatalogue {
     std::vector<Context> contexts;
     /// In the order of the file, each with an identifier of its own and a context that exists.
     std::vector<Action> actions;
+    /// The contexts that count at once in a part of the window, the first that is asked first: a
+    /// list for each mode, for example, with the view that the mode is in.
+    std::vector<std::vector<unsigned long>> together;
     /// A line with the file, the place and the reason for each accelerator that was left out, since
     /// it names no single key combination.
     QStringList warnings;
 
     /// The contexts that count everywhere, in the order in which the application asks them.
     std::vector<unsigned long> everywhere() const;
+
+    /// What an audit is told of the contexts; the other options are as they are at first.
+    CUI::HotkeyAudit::Options auditOptions() const;
 
     /// Reads the JSON text of a catalogue. Nothing when anything in it is wrong; @p error then
     /// holds one line with @p fileName, the place and the reason.

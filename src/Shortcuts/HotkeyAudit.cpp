@@ -375,11 +375,17 @@ bool HotkeyAudit::Private::isFree(int combination, unsigned long contextId) cons
                != options.everywhere.end();
     };
     const bool isWanted = countsEverywhere(contextId);
+    const auto countsBeside = [&](unsigned long other) {
+        return std::any_of(options.together.begin(), options.together.end(), [&](const auto &part) {
+            return std::count(part.begin(), part.end(), contextId) != 0
+                   && std::count(part.begin(), part.end(), other) != 0;
+        });
+    };
     const QKeySequence key(combination);
     const auto [first, last] = std::equal_range(keys.begin(), keys.end(), key, KeyOrder());
     const bool isHeld = std::any_of(first, last, [&](const HeldKey &held) {
         return isWanted || held.holder.contextId == contextId
-               || countsEverywhere(held.holder.contextId);
+               || countsEverywhere(held.holder.contextId) || countsBeside(held.holder.contextId);
     });
     if (isHeld)
         return false;

@@ -34,6 +34,12 @@ public:
         /// True where the application asks these contexts in their order. False where two of them
         /// that share a key make it ambiguous, as in QvelActionBinder.
         bool isEverywhereOrdered = false;
+        /// Contexts that count at once in one part of the window, such as a mode and the view that
+        /// the mode is in: each list holds those of one part, in the order in which the application
+        /// asks them, the nearest to the focus first and of equally near ones as in
+        /// QvelActionBinder::setContextOrder(). Modes that exclude one another are in lists of
+        /// their own, each with the view. A context that is in no list counts alone.
+        std::vector<std::vector<unsigned long>> together;
         /// The keys that the keyboard types by themselves or with Shift, as Qt key codes, letters
         /// in upper case; only characters count, keys like F5 or Home are taken to be there.
         /// Without a value the layout is not checked. QvelConflictsWidget::typeableKeys() answers

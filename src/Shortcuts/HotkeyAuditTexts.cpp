@@ -27,12 +27,14 @@ public:
 private:
     QString heldTwice() const;
     QString acrossContexts() const;
-    QString elsewhere(const ActionIdentifier &acting, bool isAnywhereElse) const;
+    QString inPart(const HotkeyFinding::Outcome &outcome) const;
+    QString elsewhere(const HotkeyFinding::Outcome &outcome, bool isAnywhereElse) const;
     QString reserved() const;
     QString lost() const;
 
     template <typename Predicate>
     QString holdersThat(Predicate predicate) const;
+    QString othersOf(const HotkeyFinding::Outcome &outcome) const;
     QString allHolders() const;
 
     const HotkeyFinding &m_finding;
@@ -65,6 +67,13 @@ QString Words::allHolders() const
     return holdersThat([](const HotkeyFinding::Holder &) { return true; });
 }
 
+QString Words::othersOf(const HotkeyFinding::Outcome &outcome) const
+{
+    return holdersThat([&others = outcome.others](const HotkeyFinding::Holder &holder) {
+        return std::find(others.begin(), others.end(), holder.action) != others.end();
+    });
+}
+
 QString Words::heldTwice() const
 {
     QStringList losers;
@@ -77,17 +86,19 @@ QString Words::heldTwice() const
                  ShownNames::ofAction(m_finding.outcomes.front().action), joined(losers));
 }
 
-QString Words::elsewhere(const ActionIdentifier &acting, bool isAnywhereElse) const
+QString Words::inPart(const HotkeyFinding::Outcome &outcome) const
 {
-    const auto isBeaten = [this, &acting](const HotkeyFinding::Holder &holder) {
-        const auto &outcomes = m_finding.outcomes;
-        return holder.action != acting
-               && std::none_of(outcomes.begin(), outcomes.end(),
-                               [&holder](const HotkeyFinding::Outcome &outcome) {
-                                   return outcome.contextId == holder.contextId;
-                               });
-    };
-    const QString beaten = holdersThat(isBeaten);
+    const QString context = ShownNames::ofContext(*outcome.contextId);
+    const QString action = ShownNames::ofAction(outcome.action);
+    return outcome.others.empty()
+                   ? tr("In %1 this key runs %2.").arg(context, action)
+                   : tr("In %1 this key runs %2, not %3.").arg(context, action, othersOf(outcome));
+}
+
+QString Words::elsewhere(const HotkeyFinding::Outcome &outcome, bool isAnywhereElse) const
+{
+    const ActionIdentifier &acting = outcome.action;
+    const QString beaten = othersOf(outcome);
     if (acting.isEmpty() && isAnywhereElse)
         return tr("Elsewhere it runs nothing, since these count there equally: %1.").arg(beaten);
     if (acting.isEmpty())
@@ -103,10 +114,8 @@ QString Words::acrossContexts() const
 {
     QStringList sentences;
     for (const HotkeyFinding::Outcome &outcome : m_finding.outcomes) {
-        sentences << (outcome.contextId ? tr("In %1 this key runs %2.")
-                                                  .arg(ShownNames::ofContext(*outcome.contextId),
-                                                       ShownNames::ofAction(outcome.action))
-                                        : elsewhere(outcome.action, !sentences.isEmpty()));
+        sentences << (outcome.contextId ? inPart(outcome)
+                                        : elsewhere(outcome, !sentences.isEmpty()));
     }
     return sentences.join(QLatin1Char(' '));
 }

@@ -20,7 +20,7 @@ struct CUI_CORE_EXPORT HotkeyFinding {
         Ambiguous, ///< contexts that count everywhere share the key: none of their actions runs
         NamesNoKey, ///< the text of the hotkey names no key
         NotTypeable, ///< the keyboard has no such key
-        Shadowed, ///< an action of a context that counts everywhere gives way in some contexts
+        Shadowed, ///< an action gives way to one of another context that counts in the same place
         TakenByDesktop, ///< a desktop uses the key itself
         HotkeyLost, ///< the action has no hotkey, though the base gives it one
         TakenByTextFields, ///< text fields use the key while they have the focus
@@ -50,6 +50,9 @@ struct CUI_CORE_EXPORT HotkeyFinding {
         std::optional<unsigned long> contextId;
         /// The action that runs; the empty identifier when none does.
         ActionIdentifier action;
+        /// The actions that hold the key and never run there: those of contexts that count together
+        /// with this one or, without a value, that count everywhere. Empty for HeldTwice.
+        std::vector<ActionIdentifier> others = {};
     };
 
     /// What was found.
@@ -59,8 +62,8 @@ struct CUI_CORE_EXPORT HotkeyFinding {
     /// The key in portable form; a text that names none as it is. Of two hotkeys the first; for
     /// HotkeyLost those of the base, joined with ", "; empty for NearLimit.
     QString hotkey;
-    /// Who is concerned. HeldTwice: the one that runs first. Shadowed: the one that counts
-    /// everywhere first. HotkeyLost: the loser first, then who has its hotkeys in its context now.
+    /// Who is concerned. HeldTwice: the one that runs first. Shadowed: those that count everywhere
+    /// first. HotkeyLost: the loser first, then who has its hotkeys in its context now.
     /// Else by context and identifier.
     std::vector<Holder> holders;
     /// What the key does today, for HeldTwice, Ambiguous and Shadowed.

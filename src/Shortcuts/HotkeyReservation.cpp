@@ -55,33 +55,43 @@ constexpr const char deleteText[] = QT_TRANSLATE_NOOP("CUI::HotkeyReservation", 
 constexpr const char moveCursor[] =
         QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Move the text cursor");
 
+constexpr const char hideDock[] =
+        QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Show or hide the Dock");
+
+/// Where users see a row and change it.
+enum class Source {
+    Settings, ///< the settings of the system, or the documentation of Qt
+    Fixed ///< nowhere
+};
+
 /// A key, or the keys from it up to another one.
 struct Row {
     System system;
     int first;
     const char *use;
     int last = 0;
+    Source source = Source::Settings;
 };
 
 constexpr Row rows[] = {
-        {System::Windows, alt | Qt::Key_F4, closeWindow},
-        {System::Windows, alt | Qt::Key_Tab, switchWindows},
-        {System::Windows, alt | shift | Qt::Key_Tab, switchWindows},
-        {System::Windows, ctrl | alt | Qt::Key_Tab, switchWindows},
-        {System::Windows, meta | Qt::Key_Tab, switchWindows},
-        {System::Windows, alt | Qt::Key_Escape, switchWindows},
-        {System::Windows, alt | Qt::Key_Space, windowMenu},
-        {System::Windows, ctrl | Qt::Key_Escape, startProgram},
-        {System::Windows, meta | Qt::Key_R, startProgram},
-        {System::Windows, meta | Qt::Key_S, startProgram},
-        {System::Windows, meta | Qt::Key_D, showDesktop},
-        {System::Windows, meta | Qt::Key_M, hideWindow},
-        {System::Windows, meta | Qt::Key_L, endSession},
-        {System::Windows, ctrl | alt | Qt::Key_Delete, endSession},
-        {System::Windows, ctrl | shift | Qt::Key_Escape, endProgram},
-        {System::Windows, Qt::Key_Print, screenshot},
-        {System::Windows, alt | Qt::Key_Print, screenshot},
-        {System::Windows, meta | shift | Qt::Key_S, screenshot},
+        {System::Windows, alt | Qt::Key_F4, closeWindow, 0, Source::Fixed},
+        {System::Windows, alt | Qt::Key_Tab, switchWindows, 0, Source::Fixed},
+        {System::Windows, alt | shift | Qt::Key_Tab, switchWindows, 0, Source::Fixed},
+        {System::Windows, ctrl | alt | Qt::Key_Tab, switchWindows, 0, Source::Fixed},
+        {System::Windows, meta | Qt::Key_Tab, switchWindows, 0, Source::Fixed},
+        {System::Windows, alt | Qt::Key_Escape, switchWindows, 0, Source::Fixed},
+        {System::Windows, alt | Qt::Key_Space, windowMenu, 0, Source::Fixed},
+        {System::Windows, ctrl | Qt::Key_Escape, startProgram, 0, Source::Fixed},
+        {System::Windows, meta | Qt::Key_R, startProgram, 0, Source::Fixed},
+        {System::Windows, meta | Qt::Key_S, startProgram, 0, Source::Fixed},
+        {System::Windows, meta | Qt::Key_D, showDesktop, 0, Source::Fixed},
+        {System::Windows, meta | Qt::Key_M, hideWindow, 0, Source::Fixed},
+        {System::Windows, meta | Qt::Key_L, endSession, 0, Source::Fixed},
+        {System::Windows, ctrl | alt | Qt::Key_Delete, endSession, 0, Source::Fixed},
+        {System::Windows, ctrl | shift | Qt::Key_Escape, endProgram, 0, Source::Fixed},
+        {System::Windows, Qt::Key_Print, screenshot, 0, Source::Fixed},
+        {System::Windows, alt | Qt::Key_Print, screenshot, 0, Source::Fixed},
+        {System::Windows, meta | shift | Qt::Key_S, screenshot, 0, Source::Fixed},
 
         {System::Kde, alt | Qt::Key_F4, closeWindow},
         {System::Kde, alt | Qt::Key_Tab, switchWindows},
@@ -101,7 +111,7 @@ constexpr Row rows[] = {
         {System::Kde, ctrl | alt | Qt::Key_Delete, endSession},
         {System::Kde, Qt::Key_Print, screenshot},
         {System::Kde, shift | Qt::Key_Print, screenshot},
-        {System::Kde, ctrl | alt | Qt::Key_F1, console, ctrl | alt | Qt::Key_F12},
+        {System::Kde, ctrl | alt | Qt::Key_F1, console, ctrl | alt | Qt::Key_F12, Source::Fixed},
 
         {System::Gnome, alt | Qt::Key_F4, closeWindow},
         {System::Gnome, alt | Qt::Key_Tab, switchWindows},
@@ -112,6 +122,7 @@ constexpr Row rows[] = {
         {System::Gnome, ctrl | alt | Qt::Key_Tab, switchWindows},
         {System::Gnome, ctrl | alt | Qt::Key_Escape, switchWindows},
         {System::Gnome, alt | Qt::Key_Space, windowMenu},
+        {System::Gnome, alt | Qt::Key_F5, arrangeWindow},
         {System::Gnome, alt | Qt::Key_F7, arrangeWindow},
         {System::Gnome, alt | Qt::Key_F8, arrangeWindow},
         {System::Gnome, alt | Qt::Key_F10, arrangeWindow},
@@ -127,25 +138,25 @@ constexpr Row rows[] = {
         {System::Gnome, shift | Qt::Key_Print, screenshot},
         {System::Gnome, alt | Qt::Key_Print, screenshot},
         {System::Gnome, ctrl | alt | shift | Qt::Key_R, screenshot},
-        {System::Gnome, ctrl | alt | Qt::Key_F1, console, ctrl | alt | Qt::Key_F12},
+        {System::Gnome, ctrl | alt | Qt::Key_F1, console, ctrl | alt | Qt::Key_F12, Source::Fixed},
 
-        {System::MacOs, ctrl | Qt::Key_Tab, switchWindows},
-        {System::MacOs, ctrl | shift | Qt::Key_Tab, switchWindows},
+        {System::MacOs, ctrl | Qt::Key_Tab, switchWindows, 0, Source::Fixed},
+        {System::MacOs, ctrl | shift | Qt::Key_Tab, switchWindows, 0, Source::Fixed},
         {System::MacOs, ctrl | Qt::Key_QuoteLeft, switchWindows},
-        {System::MacOs, ctrl | Qt::Key_H, hideWindow},
-        {System::MacOs, ctrl | alt | Qt::Key_H, hideWindow},
-        {System::MacOs, ctrl | Qt::Key_M, hideWindow},
+        {System::MacOs, ctrl | Qt::Key_H, hideWindow, 0, Source::Fixed},
+        {System::MacOs, ctrl | alt | Qt::Key_H, hideWindow, 0, Source::Fixed},
+        {System::MacOs, ctrl | Qt::Key_M, hideWindow, 0, Source::Fixed},
         {System::MacOs, meta | Qt::Key_Up, allWindows},
         {System::MacOs, meta | Qt::Key_Down, allWindows},
         {System::MacOs, Qt::Key_F11, showDesktop},
-        {System::MacOs, ctrl | alt | Qt::Key_D, showDesktop},
+        {System::MacOs, ctrl | alt | Qt::Key_D, hideDock},
         {System::MacOs, meta | Qt::Key_Left, switchDesktop},
         {System::MacOs, meta | Qt::Key_Right, switchDesktop},
         {System::MacOs, ctrl | Qt::Key_Space, startProgram},
         {System::MacOs, ctrl | alt | Qt::Key_Space, startProgram},
-        {System::MacOs, ctrl | shift | Qt::Key_Q, endSession},
-        {System::MacOs, ctrl | meta | Qt::Key_Q, endSession},
-        {System::MacOs, ctrl | alt | Qt::Key_Escape, endProgram},
+        {System::MacOs, ctrl | shift | Qt::Key_Q, endSession, 0, Source::Fixed},
+        {System::MacOs, ctrl | meta | Qt::Key_Q, endSession, 0, Source::Fixed},
+        {System::MacOs, ctrl | alt | Qt::Key_Escape, endProgram, 0, Source::Fixed},
         {System::MacOs, ctrl | shift | Qt::Key_3, screenshot, ctrl | shift | Qt::Key_5},
         {System::MacOs, ctrl | Qt::Key_F5, accessibility},
         {System::MacOs, ctrl | alt | Qt::Key_F5, accessibility},
@@ -160,15 +171,14 @@ constexpr Row rows[] = {
         {System::TextFields, ctrl | shift | Qt::Key_Z, undoRedo},
         {System::TextFields, ctrl | Qt::Key_Y, undoRedo},
         {System::TextFields, ctrl | Qt::Key_A, selectText},
-        {System::TextFields, shift | Qt::Key_Home, selectText, shift | Qt::Key_PageDown},
-        {System::TextFields, ctrl | shift | Qt::Key_Home, selectText,
-         ctrl | shift | Qt::Key_PageDown},
+        {System::TextFields, shift | Qt::Key_Home, selectText, shift | Qt::Key_Down},
+        {System::TextFields, ctrl | shift | Qt::Key_Home, selectText, ctrl | shift | Qt::Key_Left},
+        {System::TextFields, ctrl | shift | Qt::Key_Right, selectText},
         {System::TextFields, Qt::Key_Delete, deleteText},
         {System::TextFields, Qt::Key_Backspace, deleteText},
-        {System::TextFields, ctrl | Qt::Key_Delete, deleteText},
-        {System::TextFields, ctrl | Qt::Key_Backspace, deleteText},
-        {System::TextFields, Qt::Key_Home, moveCursor, Qt::Key_PageDown},
-        {System::TextFields, ctrl | Qt::Key_Home, moveCursor, ctrl | Qt::Key_Down},
+        {System::TextFields, Qt::Key_Home, moveCursor, Qt::Key_Down},
+        {System::TextFields, ctrl | Qt::Key_Home, moveCursor, ctrl | Qt::Key_Left},
+        {System::TextFields, ctrl | Qt::Key_Right, moveCursor},
 };
 
 QString translated(const char *sourceText)
@@ -176,12 +186,13 @@ QString translated(const char *sourceText)
     return QCoreApplication::translate("CUI::HotkeyReservation", sourceText);
 }
 
-QString sourceOf(System system)
+QString sourceOf(const Row &row)
 {
-    switch (system) {
-    case System::Windows:
-        return translated(
-                QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "Windows: built into the system"));
+    if (row.source == Source::Fixed) {
+        return translated(QT_TRANSLATE_NOOP("CUI::HotkeyReservation", "%1: built into the system"))
+                .arg(HotkeyReservation::nameOf(row.system));
+    }
+    switch (row.system) {
     case System::Kde:
         return translated(QT_TRANSLATE_NOOP("CUI::HotkeyReservation",
                                             "KDE: System Settings > Keyboard > Shortcuts"));
@@ -192,6 +203,7 @@ QString sourceOf(System system)
         return translated(
                 QT_TRANSLATE_NOOP("CUI::HotkeyReservation",
                                   "macOS: System Settings > Keyboard > Keyboard Shortcuts"));
+    case System::Windows:
     case System::TextFields:
         break;
     }
@@ -201,7 +213,7 @@ QString sourceOf(System system)
 HotkeyReservation reservation(const Row &row, int combination)
 {
     return {row.system, QKeySequence(combination).toString(QKeySequence::PortableText),
-            translated(row.use), sourceOf(row.system)};
+            translated(row.use), sourceOf(row)};
 }
 
 } // namespace

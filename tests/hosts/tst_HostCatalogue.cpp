@@ -110,6 +110,9 @@ void HostCatalogueTest::refusesWhatIsWrong_data()
     row("'momentary': true", "'momentary': 1", " actions[1].momentary: is neither true nor false");
     row("'momentary': true", "'momentery': true", " actions[1].momentery: is not known here");
     row("['Ctrl+Z', 'Num+5']", "'Ctrl+Z'", " actions[0].accelerators: is not an array");
+    row("'actions':", "'together': [[3, 1], 3], 'actions':", " together[1]: is not an array");
+    row("'actions':", "'together': [[3, 9]], 'actions':",
+        " together[0][1]: is not the id of a context");
     row("'Num+5'", "5", " actions[0].accelerators[1]: is not a text");
 }
 

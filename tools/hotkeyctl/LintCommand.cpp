@@ -37,10 +37,8 @@ std::optional<Severity> severityNamed(const QString &name)
 /// The findings about what is in effect; those that are less severe are counted and left out.
 Findings findingsOf(Session &session, Severity least, std::map<Severity, int> &counts)
 {
-    CUI::HotkeyAudit::Options options;
-    options.everywhere = session.catalogue().everywhere();
-    options.isEverywhereOrdered = true;
-    Findings findings = CUI::HotkeyAudit(session.store(), options).findings();
+    const CUI::HotkeyAudit audit(session.store(), session.catalogue().auditOptions());
+    Findings findings = audit.findings();
     for (const Finding &finding : findings)
         ++counts[finding.severity];
     findings.erase(std::remove_if(findings.begin(), findings.end(),

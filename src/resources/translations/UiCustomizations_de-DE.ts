@@ -74,6 +74,10 @@
         <source>%1 may take this key before it runs %2.</source>
         <translation>%1 kann diese Taste abfangen, bevor sie %2 auslöst.</translation>
     </message>
+    <message>
+        <source>In %1 this key runs %2, not %3.</source>
+        <translation>In %1 löst diese Taste %2 aus, nicht %3.</translation>
+    </message>
 </context>
 <context>
     <name>CUI::HotkeyFinding</name>
@@ -155,6 +159,10 @@
     <message>
         <source>Reserved by the system</source>
         <translation>Vom System reserviert</translation>
+    </message>
+    <message>
+        <source>Without modifiers</source>
+        <translation>Ohne Umschalttasten</translation>
     </message>
 </context>
 <context>
@@ -264,8 +272,12 @@
         <translation>Textfelder</translation>
     </message>
     <message>
-        <source>Windows: built into the system</source>
-        <translation>Windows: fest im System</translation>
+        <source>Show or hide the Dock</source>
+        <translation>Dock ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>%1: built into the system</source>
+        <translation>%1: fest im System</translation>
     </message>
 </context>
 <context>

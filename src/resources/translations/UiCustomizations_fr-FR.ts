@@ -74,6 +74,10 @@
         <source>%1 may take this key before it runs %2.</source>
         <translation>%1 peut prendre cette touche avant qu’elle n’exécute %2.</translation>
     </message>
+    <message>
+        <source>In %1 this key runs %2, not %3.</source>
+        <translation>Dans %1, cette touche exécute %2, et non %3.</translation>
+    </message>
 </context>
 <context>
     <name>CUI::HotkeyFinding</name>
@@ -155,6 +159,10 @@
     <message>
         <source>Reserved by the system</source>
         <translation>Réservé par le système</translation>
+    </message>
+    <message>
+        <source>Without modifiers</source>
+        <translation>Sans modificateur</translation>
     </message>
 </context>
 <context>
@@ -264,8 +272,12 @@
         <translation>Champs de texte</translation>
     </message>
     <message>
-        <source>Windows: built into the system</source>
-        <translation>Windows : intégré au système</translation>
+        <source>Show or hide the Dock</source>
+        <translation>Afficher ou masquer le Dock</translation>
+    </message>
+    <message>
+        <source>%1: built into the system</source>
+        <translation>%1 : intégré au système</translation>
     </message>
 </context>
 <context>

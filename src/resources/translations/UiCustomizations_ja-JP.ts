@@ -74,6 +74,10 @@
         <source>%1 may take this key before it runs %2.</source>
         <translation>このキーは、%2 を実行する前に %1 に使われることがあります。</translation>
     </message>
+    <message>
+        <source>In %1 this key runs %2, not %3.</source>
+        <translation>%1 では、このキーは %3 ではなく %2 を実行します。</translation>
+    </message>
 </context>
 <context>
     <name>CUI::HotkeyFinding</name>
@@ -155,6 +159,10 @@
     <message>
         <source>Reserved by the system</source>
         <translation>システムが予約</translation>
+    </message>
+    <message>
+        <source>Without modifiers</source>
+        <translation>修飾キーなし</translation>
     </message>
 </context>
 <context>
@@ -264,8 +272,12 @@
         <translation>テキスト入力欄</translation>
     </message>
     <message>
-        <source>Windows: built into the system</source>
-        <translation>Windows: システムに組み込み</translation>
+        <source>Show or hide the Dock</source>
+        <translation>Dock を表示または非表示</translation>
+    </message>
+    <message>
+        <source>%1: built into the system</source>
+        <translation>%1: システムに組み込み</translation>
     </message>
 </context>
 <context>

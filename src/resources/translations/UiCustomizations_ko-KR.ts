@@ -74,6 +74,10 @@
         <source>%1 may take this key before it runs %2.</source>
         <translation>%1에서 이 키가 %2을(를) 실행하기 전에 사용할 수 있습니다.</translation>
     </message>
+    <message>
+        <source>In %1 this key runs %2, not %3.</source>
+        <translation>%1에서 이 키는 %3이(가) 아니라 %2을(를) 실행합니다.</translation>
+    </message>
 </context>
 <context>
     <name>CUI::HotkeyFinding</name>
@@ -155,6 +159,10 @@
     <message>
         <source>Reserved by the system</source>
         <translation>시스템이 예약함</translation>
+    </message>
+    <message>
+        <source>Without modifiers</source>
+        <translation>조합 키 없음</translation>
     </message>
 </context>
 <context>
@@ -264,8 +272,12 @@
         <translation>텍스트 입력란</translation>
     </message>
     <message>
-        <source>Windows: built into the system</source>
-        <translation>Windows: 시스템에 내장</translation>
+        <source>Show or hide the Dock</source>
+        <translation>Dock 표시 또는 숨기기</translation>
+    </message>
+    <message>
+        <source>%1: built into the system</source>
+        <translation>%1: 시스템에 내장</translation>
     </message>
 </context>
 <context>

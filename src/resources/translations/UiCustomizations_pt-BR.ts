@@ -74,6 +74,10 @@
         <source>%1 may take this key before it runs %2.</source>
         <translation>%1 pode usar esta tecla antes que ela execute %2.</translation>
     </message>
+    <message>
+        <source>In %1 this key runs %2, not %3.</source>
+        <translation>Em %1, esta tecla executa %2, não %3.</translation>
+    </message>
 </context>
 <context>
     <name>CUI::HotkeyFinding</name>
@@ -155,6 +159,10 @@
     <message>
         <source>Reserved by the system</source>
         <translation>Reservado pelo sistema</translation>
+    </message>
+    <message>
+        <source>Without modifiers</source>
+        <translation>Sem modificadores</translation>
     </message>
 </context>
 <context>
@@ -264,8 +272,12 @@
         <translation>Campos de texto</translation>
     </message>
     <message>
-        <source>Windows: built into the system</source>
-        <translation>Windows: integrado ao sistema</translation>
+        <source>Show or hide the Dock</source>
+        <translation>Mostrar ou ocultar o Dock</translation>
+    </message>
+    <message>
+        <source>%1: built into the system</source>
+        <translation>%1: integrado ao sistema</translation>
     </message>
 </context>
 <context>

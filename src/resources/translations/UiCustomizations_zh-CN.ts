@@ -74,6 +74,10 @@
         <source>%1 may take this key before it runs %2.</source>
         <translation>%1 可能会在此按键执行 %2 之前将其占用。</translation>
     </message>
+    <message>
+        <source>In %1 this key runs %2, not %3.</source>
+        <translation>在 %1 中，此按键执行 %2，而不是 %3。</translation>
+    </message>
 </context>
 <context>
     <name>CUI::HotkeyFinding</name>
@@ -155,6 +159,10 @@
     <message>
         <source>Reserved by the system</source>
         <translation>由系统保留</translation>
+    </message>
+    <message>
+        <source>Without modifiers</source>
+        <translation>无修饰键</translation>
     </message>
 </context>
 <context>
@@ -264,8 +272,12 @@
         <translation>文本框</translation>
     </message>
     <message>
-        <source>Windows: built into the system</source>
-        <translation>Windows：系统内置</translation>
+        <source>Show or hide the Dock</source>
+        <translation>显示或隐藏程序坞</translation>
+    </message>
+    <message>
+        <source>%1: built into the system</source>
+        <translation>%1：系统内置</translation>
     </message>
 </context>
 <context>
