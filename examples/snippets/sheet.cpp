@@ -11,6 +11,9 @@ void printHotkeys(CUI::QvelShortcutManager &hotkeys, unsigned long mesh, QPagedP
     filter.state = CUI::ActionFilter::State::Assigned;
     CUI::HotkeySheet sheet(hotkeys, filter);
     sheet.setTitle(QStringLiteral("Mesh"));
+    CUI::HotkeyKeyboard keyboard;
+    keyboard.readHotkeys(hotkeys);
+    sheet.setKeyboard(keyboard);
     if (!sheet.save(QStringLiteral("mesh.pdf")))
         return; // the log says why
     sheet.print(printer);

@@ -74,7 +74,7 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     new HistoryButtons(*history, buttons, this);
     QPushButton *sheet = buttons->addButton(tr("&Sheet"), QDialogButtonBox::ActionRole);
-    sheet->setMenu(new SheetMenu(&manager, m_editor, sheet));
+    sheet->setMenu(new SheetMenu(&manager, m_editor, m_keyboard, sheet));
     sheet->setAutoDefault(false);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     auto *layout = new QVBoxLayout(this);
@@ -118,11 +118,8 @@ void CustomizeDialog::addKeyboard()
     });
 }
 
-void CustomizeDialog::setContextsEverywhere(const std::vector<unsigned long> &contexts)
+void CustomizeDialog::setAuditOptions(CUI::HotkeyAudit::Options options)
 {
-    CUI::HotkeyAudit::Options options;
-    options.everywhere = contexts;
-    options.isEverywhereOrdered = true;
     options.systems = CUI::HotkeyReservation::systemsHere();
     m_keyboard->setOptions(options);
     options.typeableKeys = CUI::QvelConflictsWidget::typeableKeys();

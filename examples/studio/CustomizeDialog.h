@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QDialog>
+#include <UiCustomizations/HotkeyAudit.h>
 
-#include <vector>
+#include <QDialog>
 
 class QTabWidget;
 
@@ -33,8 +33,8 @@ public:
     QTabWidget *tabs() const { return m_tabs; }
     CUI::QvelConflictsWidget *conflicts() const { return m_conflicts; }
     CUI::QvelMessageLogWidget *log() const { return m_log; }
-    /// The contexts that count wherever the focus is, in the order in which they are asked.
-    void setContextsEverywhere(const std::vector<unsigned long> &contexts);
+    /// Where contexts count; the systems and the keys that can be typed are those of this computer.
+    void setAuditOptions(CUI::HotkeyAudit::Options options);
     /// Fills the log with what was logged before the dialog was opened.
     void setLoggedText(const QString &lines);
 

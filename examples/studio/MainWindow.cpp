@@ -153,7 +153,7 @@ CustomizeDialog *MainWindow::showCustomizeDialog()
 {
     if (m_dialog == nullptr) {
         m_dialog = new CustomizeDialog(m_store, *m_watcher, this);
-        m_dialog->setContextsEverywhere(m_host.catalogue().everywhere());
+        m_dialog->setAuditOptions(m_host.catalogue().auditOptions());
         m_dialog->setLoggedText(m_console->toPlainText());
     }
     m_dialog->show();

@@ -2,6 +2,7 @@
 
 #include <UiCustomizations/HotkeySheet.h>
 #include <UiCustomizations/QvelActionItemModel.h>
+#include <UiCustomizations/QvelKeyboardWidget.h>
 #include <UiCustomizations/QvelShortcutsWidget.h>
 #include <UiCustomizations/QvelSortFilterProxyModel.h>
 #include <UiCustomizations/VelAction.h>
@@ -14,11 +15,18 @@
 namespace Studio {
 
 SheetMenu::SheetMenu(CUI::QvelShortcutManager *manager, CUI::QvelShortcutsWidget *editor,
-                     QWidget *parent)
-    : QMenu(tr("&Sheet"), parent), m_manager(manager), m_editor(editor)
+                     CUI::QvelKeyboardWidget *keyboard, QWidget *parent)
+    : QMenu(tr("&Sheet"), parent),
+      m_manager(manager),
+      m_editor(editor),
+      m_keyboard(keyboard),
+      m_withKeyboard(new QAction(tr("With &Keyboard"), this))
 {
     addAction(tr("Print Pre&view..."), this, &SheetMenu::showPrintPreview);
     addAction(tr("&Export..."), this, &SheetMenu::exportSheet);
+    addSeparator();
+    m_withKeyboard->setCheckable(true);
+    addAction(m_withKeyboard);
 }
 
 CUI::HotkeySheet SheetMenu::sheet() const
@@ -30,7 +38,10 @@ CUI::HotkeySheet SheetMenu::sheet() const
         const QModelIndex index = table->mapToSource(table->index(row, 0));
         listed.push_back(actions->velActionFromModelIdx(index)->identifier());
     }
-    return {*m_manager, listed};
+    CUI::HotkeySheet sheet(*m_manager, listed);
+    if (m_withKeyboard->isChecked())
+        sheet.setKeyboard(m_keyboard->keyboard());
+    return sheet;
 }
 
 void SheetMenu::showPrintPreview()

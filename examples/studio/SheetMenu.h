@@ -4,21 +4,23 @@
 
 namespace CUI {
 class HotkeySheet;
+class QvelKeyboardWidget;
 class QvelShortcutManager;
 class QvelShortcutsWidget;
 } // namespace CUI
 
 namespace Studio {
 
-/// Prints and exports the actions that the table of the editor lists.
+/// Prints and exports the actions that the table of the editor lists, if the user wants it with
+/// pictures of the keyboard.
 class SheetMenu : public QMenu
 {
     Q_OBJECT
 
 public:
-    /// @p manager and @p editor must outlive it.
+    /// All but @p parent must outlive it.
     SheetMenu(CUI::QvelShortcutManager *manager, CUI::QvelShortcutsWidget *editor,
-              QWidget *parent = nullptr);
+              CUI::QvelKeyboardWidget *keyboard, QWidget *parent = nullptr);
 
     void showPrintPreview();
     void exportSheet();
@@ -28,6 +30,8 @@ private:
 
     CUI::QvelShortcutManager *m_manager;
     CUI::QvelShortcutsWidget *m_editor;
+    CUI::QvelKeyboardWidget *m_keyboard;
+    QAction *m_withKeyboard;
 };
 
 } // namespace Studio

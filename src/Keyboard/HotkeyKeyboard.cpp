@@ -86,15 +86,20 @@ QString textOf(char32_t character)
     return shown != 0 ? QString::fromUcs4(&shown, 1) : QString();
 }
 
+QString nameOfModifiers(int modifiers)
+{
+    QString text = native(modifiers);
+    text.chop(1); // a plus sign follows it
+    return text;
+}
+
 /// The key in the user's language, without the keypad's qualifier.
 QString nameOfKey(int code, int key)
 {
     const int modifier = modifierOf(code);
-    if (modifier == 0)
-        return key != 0 ? native(key & ~int{Qt::KeypadModifier}) : QString();
-    QString text = native(modifier);
-    text.chop(1); // a plus sign follows it
-    return text;
+    if (modifier != 0)
+        return nameOfModifiers(modifier);
+    return key != 0 ? native(key & ~int{Qt::KeypadModifier}) : QString();
 }
 
 QString capOf(int code, const QString &name)
@@ -273,6 +278,16 @@ HotkeyKeyboard::HotkeyKeyboard(const KeyboardLayout &layout) : d(std::make_uniqu
 
 HotkeyKeyboard::~HotkeyKeyboard() = default;
 
+HotkeyKeyboard::HotkeyKeyboard(const HotkeyKeyboard &other) : d(std::make_unique<Private>(*other.d))
+{
+}
+
+HotkeyKeyboard &HotkeyKeyboard::operator=(const HotkeyKeyboard &other)
+{
+    *d = *other.d;
+    return *this;
+}
+
 const KeyboardLayout &HotkeyKeyboard::layout() const
 {
     return d->layout;
@@ -387,6 +402,12 @@ QString HotkeyKeyboard::textOf(State state)
         return tr("Reserved by the system");
     }
     return {};
+}
+
+QString HotkeyKeyboard::textOf(Qt::KeyboardModifiers modifiers)
+{
+    const int named = static_cast<int>(modifiers) & hotkeyModifiers;
+    return named != 0 ? nameOfModifiers(named) : tr("Without modifiers");
 }
 
 QSizeF HotkeyKeyboard::size()

@@ -36,7 +36,7 @@ public:
         Free,
         Taken, ///< by an action of one context
         TakenInSeveralContexts,
-        Shadowed, ///< a context that counts everywhere shares it with another context
+        Shadowed, ///< an action gives way to one of another context in some part of the window
         Reserved, ///< a desktop takes it before any application; it may be taken as well
     };
 
@@ -73,7 +73,10 @@ public:
     /// A keyboard of @p layout without hotkeys: each key that makes one is free or reserved.
     explicit HotkeyKeyboard(const KeyboardLayout &layout = KeyboardLayout());
     ~HotkeyKeyboard();
-    Q_DISABLE_COPY(HotkeyKeyboard)
+    /// A copy changes on its own.
+    HotkeyKeyboard(const HotkeyKeyboard &other);
+    /// Takes over all that @p other has.
+    HotkeyKeyboard &operator=(const HotkeyKeyboard &other);
 
     /// The shape of the keyboard and the characters of its keys.
     const KeyboardLayout &layout() const;
@@ -83,9 +86,9 @@ public:
     /// The contexts whose actions count; with none, which is so at first, those of all contexts do.
     void setContexts(const std::vector<unsigned long> &contexts);
 
-    /// The contexts that count everywhere, and the desktops whose reservations count, as in an
-    /// audit; other options have no effect. Without contexts, which is so at first, no key is
-    /// shadowed.
+    /// The contexts that count everywhere or together, and the desktops whose reservations count,
+    /// as in an audit; other options have no effect. Without such contexts, which is so at first,
+    /// no key is shadowed.
     void setOptions(const HotkeyAudit::Options &options);
 
     /// Those of Shift, Control and Alt that are pressed together with each key; others are ignored.
@@ -110,6 +113,9 @@ public:
     QString describe(const Key &key) const;
     /// The name of a state, as the legend has it.
     static QString textOf(State state);
+    /// The names of the modifiers in the user's language, such as "Ctrl+Shift"; for none of Shift,
+    /// Control and Alt "Without modifiers".
+    static QString textOf(Qt::KeyboardModifiers modifiers);
 
     /// The size of the picture. A letter key with its gap is 100 wide.
     static QSizeF size();

@@ -1,3 +1,5 @@
+#include "KeyboardSvg.h"
+
 #include "HotkeyKeyboard.h"
 #include "KeyboardColors.h"
 #include "KeyboardDrawing.h"
@@ -39,40 +41,58 @@ QString classOf(State state)
 
 QString number(double value)
 {
-    return QString::number(value, 'f', 1);
+    const QString text = QString::number(value, 'f', 1);
+    return text.endsWith(QLatin1String(".0")) ? text.chopped(2) : text;
+}
+
+QString rule(const QString &selector, const char *property, const QString &value)
+{
+    return QStringLiteral("%1{%2:%3}").arg(selector, QLatin1String(property), value);
 }
 
 QString rule(const QString &selector, const char *property, const QColor &color)
 {
-    return QStringLiteral("%1{%2:%3}").arg(selector, QLatin1String(property), color.name());
+    return rule(selector, property, color.name());
+}
+
+QString selectorOf(const char *name)
+{
+    return QStringLiteral(".cui-keyboard .") + QLatin1String(name);
 }
 
 QString colorRules(const KeyboardColors &colors)
 {
     QString css;
     for (const NamedState &named : stateClasses) {
-        const QString selector = QStringLiteral(".cui-keyboard .") + QLatin1String(named.name);
+        const QString selector = selectorOf(named.name);
         css += rule(selector, "fill", colors.face(named.state));
         css += rule(selector + QStringLiteral("-lines"), "stroke", colors.hatching(named.state));
     }
     css += rule(QStringLiteral(".cui-keyboard"), "background", colors.face(State::Free));
-    css += rule(QStringLiteral(".cui-keyboard .cui-held"), "fill", colors.heldFace());
-    css += rule(QStringLiteral(".cui-keyboard .cui-edge"), "stroke", colors.edge());
-    css += rule(QStringLiteral(".cui-keyboard .cui-strong"), "fill", colors.text());
-    css += rule(QStringLiteral(".cui-keyboard .cui-dim"), "fill", colors.dimText());
+    css += rule(selectorOf("cui-held"), "fill", colors.heldFace());
+    css += rule(selectorOf("cui-edge"), "stroke", colors.edge());
+    css += rule(selectorOf("cui-strong"), "fill", colors.text());
+    css += rule(selectorOf("cui-dim"), "fill", colors.dimText());
     return css;
 }
 
-QString styleSheet()
+/// The colours that users of forced colours have chosen. The states differ without colours, too.
+QString systemColorRules()
 {
-    const KeyboardColors light(Qt::white, Qt::black);
-    const KeyboardColors dark(QColor(0x1e, 0x1e, 0x1e), QColor(0xe6, 0xe6, 0xe6));
-    return QStringLiteral(".cui-keyboard text{font-family:sans-serif;dominant-baseline:central}"
-                          ".cui-keyboard .cui-edge{fill:none;stroke-width:2}"
-                          ".cui-keyboard .cui-lines{fill:none;stroke-width:3}")
-           + colorRules(light)
-           + QStringLiteral("@media screen and (prefers-color-scheme:dark){%1}")
-                     .arg(colorRules(dark));
+    const QString paper = QStringLiteral("Canvas");
+    const QString ink = QStringLiteral("CanvasText");
+    const QString faint = QStringLiteral("GrayText");
+    QString css = rule(QStringLiteral(".cui-keyboard"), "background", paper);
+    for (const NamedState &named : stateClasses) {
+        css += rule(selectorOf(named.name), "fill", paper);
+        css += rule(selectorOf(named.name) + QStringLiteral("-lines"), "stroke", faint);
+    }
+    css += rule(selectorOf("cui-edge"), "stroke", ink);
+    css += rule(selectorOf("cui-none.cui-edge"), "stroke", faint);
+    css += rule(selectorOf("cui-held"), "fill", paper)
+           + rule(selectorOf("cui-held"), "stroke-width", QStringLiteral("8"));
+    css += rule(selectorOf("cui-strong"), "fill", ink) + rule(selectorOf("cui-dim"), "fill", ink);
+    return css;
 }
 
 QString pathData(const QPainterPath &path)
@@ -97,7 +117,7 @@ double estimatedWidth(const QString &text, double size)
     constexpr ushort firstOfFullWidth = 0x2E80;
     double width = 0;
     for (const QChar character : text)
-        width += size * (character.unicode() >= firstOfFullWidth ? 1.0 : 0.6);
+        width += size * (character.unicode() >= firstOfFullWidth ? 1.0 : 0.66);
     return width;
 }
 
@@ -122,16 +142,21 @@ public:
     void drawFace(const QVector<QRectF> &parts, State state, bool isHeld) override
     {
         const QString outlineData = pathData(KeyboardDrawing::outlineOf(parts));
-        writePath(outlineData, isHeld ? QStringLiteral("cui-held") : classOf(state));
+        const QString face = isHeld ? QStringLiteral("cui-held") : classOf(state);
+        const QString edge = QStringLiteral("cui-edge");
         QString lines;
         for (const QLineF &line : KeyboardDrawing::hatching(parts, state)) {
             lines += QStringLiteral("M%1 %2L%3 %4")
                              .arg(number(line.x1()), number(line.y1()), number(line.x2()),
                                   number(line.y2()));
         }
-        if (!lines.isEmpty())
-            writePath(lines, QStringLiteral("cui-lines %1-lines").arg(classOf(state)));
-        writePath(outlineData, QStringLiteral("cui-edge"));
+        if (lines.isEmpty()) {
+            writePath(outlineData, face + QLatin1Char(' ') + edge);
+            return;
+        }
+        writePath(outlineData, face);
+        writePath(lines, QStringLiteral("cui-lines %1-lines").arg(classOf(state)));
+        writePath(outlineData, edge);
     }
 
     void drawSymbol(const QPainterPath &symbol) override
@@ -169,20 +194,41 @@ private:
 
 } // namespace
 
-QByteArray HotkeyKeyboard::toSvg() const
+QString KeyboardSvg::styleSheet()
 {
-    QByteArray svg;
-    QXmlStreamWriter writer(&svg);
+    const KeyboardColors light(Qt::white, Qt::black);
+    const KeyboardColors dark(QColor(0x1e, 0x1e, 0x1e), QColor(0xe6, 0xe6, 0xe6));
+    return QStringLiteral(".cui-keyboard text{font-family:sans-serif;dominant-baseline:central}"
+                          ".cui-keyboard .cui-edge{fill:none;stroke-width:2}"
+                          ".cui-keyboard .cui-lines{fill:none;stroke-width:3}")
+           + colorRules(light)
+           + QStringLiteral("@media screen and (prefers-color-scheme:dark){%1}")
+                     .arg(colorRules(dark))
+           + QStringLiteral("@media (forced-colors:active){%1}").arg(systemColorRules());
+}
+
+void KeyboardSvg::write(QXmlStreamWriter &writer, const HotkeyKeyboard &keyboard,
+                        const QString &style)
+{
+    const QSizeF size = HotkeyKeyboard::size();
     writer.writeStartElement(QStringLiteral("svg"));
     writer.writeDefaultNamespace(QStringLiteral("http://www.w3.org/2000/svg"));
     writer.writeAttribute(QStringLiteral("class"), QStringLiteral("cui-keyboard"));
     writer.writeAttribute(
             QStringLiteral("viewBox"),
-            QStringLiteral("0 0 %1 %2").arg(number(size().width()), number(size().height())));
-    writer.writeTextElement(QStringLiteral("style"), styleSheet());
-    SvgCanvas canvas(writer, *this);
-    KeyboardDrawing::draw(*this, canvas);
+            QStringLiteral("0 0 %1 %2").arg(number(size.width()), number(size.height())));
+    if (!style.isEmpty())
+        writer.writeTextElement(QStringLiteral("style"), style);
+    SvgCanvas canvas(writer, keyboard);
+    KeyboardDrawing::draw(keyboard, canvas);
     writer.writeEndElement();
+}
+
+QByteArray HotkeyKeyboard::toSvg() const
+{
+    QByteArray svg;
+    QXmlStreamWriter writer(&svg);
+    KeyboardSvg::write(writer, *this, KeyboardSvg::styleSheet());
     return svg;
 }
 

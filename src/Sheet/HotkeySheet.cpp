@@ -15,6 +15,8 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <array>
+#include <set>
 #include <utility>
 
 namespace CUI {
@@ -46,6 +48,15 @@ bool standsBefore(const Placed &a, const Placed &b)
     if (a.entry.action != b.entry.action)
         return isBefore(a.entry.action, b.entry.action);
     return a.entry.identifier < b.entry.identifier;
+}
+
+std::array<Qt::KeyboardModifiers, 8> combinations()
+{
+    constexpr auto control = Qt::ControlModifier;
+    constexpr auto shift = Qt::ShiftModifier;
+    constexpr auto alt = Qt::AltModifier;
+    return {{Qt::NoModifier, control, shift, alt, control | shift, control | alt, alt | shift,
+             control | alt | shift}};
 }
 
 } // namespace
@@ -119,6 +130,34 @@ int HotkeySheet::size() const
             count += category.entries.size();
     }
     return static_cast<int>(count);
+}
+
+void HotkeySheet::setKeyboard(const HotkeyKeyboard &keyboard)
+{
+    std::vector<unsigned long> contexts;
+    std::set<ActionIdentifier> listed;
+    for (const Context &context : m_contexts) {
+        contexts.push_back(context.id);
+        for (const Category &category : context.categories) {
+            for (const Entry &entry : category.entries)
+                listed.insert(entry.identifier);
+        }
+    }
+    const auto isListed = [&listed](const HotkeyKeyboard::Holder &holder) {
+        return listed.count(holder.action) != 0;
+    };
+    HotkeyKeyboard shown(keyboard);
+    shown.setContexts(contexts);
+    m_keyboards.clear();
+    for (const Qt::KeyboardModifiers modifiers : combinations()) {
+        shown.setModifiers(modifiers);
+        const bool isUsed =
+                std::any_of(shown.keys().begin(), shown.keys().end(), [&](const auto &key) {
+                    return std::any_of(key.holders.begin(), key.holders.end(), isListed);
+                });
+        if (isUsed)
+            m_keyboards.push_back(shown);
+    }
 }
 
 QByteArray HotkeySheet::toHtml() const

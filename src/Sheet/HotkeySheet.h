@@ -2,6 +2,7 @@
 
 #include "ActionFilter.h"
 #include "ActionIdentifier.h"
+#include "HotkeyKeyboard.h"
 #include "UiCustomizationsExport.h"
 
 #include <QByteArray>
@@ -72,12 +73,20 @@ public:
     /// Sets the heading.
     void setTitle(const QString &title) { m_title = title; }
 
+    /// Shows @p keyboard behind the list: one picture for each combination of Control, Shift and
+    /// Alt with which an action of the list has a hotkey on it, those of few modifiers first. The
+    /// contexts are those of the list; layout, options and hotkeys are those that @p keyboard has
+    /// now. HTML and PDF have the pictures, and what print() paints; Markdown and CSV have none.
+    void setKeyboard(const HotkeyKeyboard &keyboard);
+    /// The pictures, each with its modifiers; none unless setKeyboard() was called.
+    const std::vector<HotkeyKeyboard> &keyboards() const { return m_keyboards; }
+
     /// One HTML file in UTF-8, which is XHTML, too. It needs no other file and forbids itself every
     /// connection; it can be searched on the page, follows a dark browser, and prints in columns.
     QByteArray toHtml() const;
 
-    /// One PDF file with page numbers, bookmarks of the contexts and categories, and text that can
-    /// be searched and copied. Empty, with an error in the log, when the process has no
+    /// One PDF file with page numbers, bookmarks of the contexts, categories and pictures, and text
+    /// that can be searched and copied. Empty, with an error in the log, when the process has no
     /// QGuiApplication, which the fonts need.
     QByteArray toPdf(const QPageSize &pageSize = defaultPageSize()) const;
 
@@ -110,6 +119,7 @@ private:
 
     QString m_title;
     std::vector<Context> m_contexts;
+    std::vector<HotkeyKeyboard> m_keyboards;
 };
 
 } // namespace CUI

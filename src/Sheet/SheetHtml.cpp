@@ -1,6 +1,7 @@
 #include "SheetHtml.h"
 
 #include "HotkeySheet.h"
+#include "KeyboardSvg.h"
 #include "SheetText.h"
 
 #include <QBuffer>
@@ -49,6 +50,8 @@ private:
     void writeContext(int number);
     void writeCategory(const HotkeySheet::Category &category);
     void writeEntry(const HotkeySheet::Entry &entry);
+    void writeKeyboards();
+    QByteArray style() const;
     static QString idOf(int context) { return QStringLiteral("context-%1").arg(context + 1); }
 
     const HotkeySheet &m_sheet;
@@ -104,15 +107,24 @@ QByteArray Page::write()
     open("main");
     for (std::size_t i = 0; i < m_sheet.contexts().size(); ++i)
         writeContext(static_cast<int>(i));
+    if (!m_sheet.keyboards().empty())
+        writeKeyboards();
     close();
     raw("script", readResource("sheet.js"));
     m_xml.writeEndDocument();
     return m_file.data();
 }
 
-void Page::writeHead()
+/// One style element for all, since the policy names it.
+QByteArray Page::style() const
 {
     const QByteArray style = readResource("sheet.css");
+    return m_sheet.keyboards().empty() ? style : style + KeyboardSvg::styleSheet().toUtf8();
+}
+
+void Page::writeHead()
+{
+    const QByteArray style = this->style();
     const QString policy =
             QStringLiteral("default-src 'none'; style-src %1; script-src %2; base-uri 'none'; "
                            "form-action 'none'")
@@ -149,14 +161,17 @@ void Page::writeSearch()
 
 void Page::writeContents()
 {
+    const auto link = [this](const QString &id, const QString &name) {
+        open("li");
+        element("a", name, {{"href", QLatin1Char('#') + id}});
+        close();
+    };
     open("nav");
     open("ul");
-    for (std::size_t i = 0; i < m_sheet.contexts().size(); ++i) {
-        open("li");
-        element("a", m_sheet.contexts()[i].name,
-                {{"href", QLatin1Char('#') + idOf(static_cast<int>(i))}});
-        close();
-    }
+    for (std::size_t i = 0; i < m_sheet.contexts().size(); ++i)
+        link(idOf(static_cast<int>(i)), m_sheet.contexts()[i].name);
+    if (!m_sheet.keyboards().empty())
+        link(QStringLiteral("keyboard"), SheetText::keyboardHeading());
     close();
     close();
 }
@@ -200,6 +215,20 @@ void Page::writeEntry(const HotkeySheet::Entry &entry)
     }
     m_xml.writeCharacters(QString());
     close();
+    close();
+}
+
+/// The search counts and hides sections, and this is none.
+void Page::writeKeyboards()
+{
+    open("aside", {{"id", QStringLiteral("keyboard")}});
+    element("h2", SheetText::keyboardHeading());
+    for (const HotkeyKeyboard &keyboard : m_sheet.keyboards()) {
+        open("figure");
+        element("figcaption", HotkeyKeyboard::textOf(keyboard.modifiers()));
+        KeyboardSvg::write(m_xml, keyboard);
+        close();
+    }
     close();
 }
 

@@ -1,5 +1,6 @@
 #include "SheetPages.h"
 
+#include "HotkeyKeyboard.h"
 #include "HotkeySheet.h"
 #include "SheetText.h"
 
@@ -7,9 +8,11 @@
 #include <QGuiApplication>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPalette>
 #include <QTextLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace CUI {
 
@@ -43,6 +46,7 @@ SheetPages::SheetPages(const HotkeySheet &sheet, QPagedPaintDevice &device)
     addFace(9.0, QFont::DemiBold, 5.0);
     addFace(8.5, QFont::Normal, 0.0);
     addFace(8.0, QFont::Normal, 0.0);
+    addFace(8.0, QFont::Normal, 2.0);
     m_gap = points(18.0);
     const double width = device.width();
     m_columnCount = std::max(1, int((width + m_gap) / (points(leastColumnWidth) + m_gap)));
@@ -84,6 +88,7 @@ SheetPages::Item SheetPages::item(Style style, const QString &left, const QStrin
     const double width = style == Title ? m_device.width() : m_columnWidth;
     Item item;
     item.style = style;
+    item.width = width;
     item.left = lines(style, left, width);
     if (!right.isEmpty())
         item.right = lines(style, right, width);
@@ -96,6 +101,22 @@ SheetPages::Item SheetPages::item(Style style, const QString &left, const QStrin
         count += item.isBeside ? 0 : item.right.size();
     }
     item.height = count * face(style).metrics.lineSpacing() + points(rowPadding);
+    return item;
+}
+
+/// As wide as the column, or a little less where one more picture fits on the page then.
+SheetPages::Item SheetPages::picture(const HotkeyKeyboard &keyboard) const
+{
+    const double caption = heightOf(item(Category, QString())) + face(Picture).above;
+    const double widest =
+            m_columnWidth * HotkeyKeyboard::size().height() / HotkeyKeyboard::size().width();
+    const double count = std::max(1.0, std::round(m_bottom / (widest + caption)));
+    Item item;
+    item.style = Picture;
+    item.picture = &keyboard;
+    item.width = m_columnWidth;
+    item.height = std::min(widest,
+                           (m_bottom - heightOf(this->item(Context, QString()))) / count - caption);
     return item;
 }
 
@@ -115,6 +136,24 @@ void SheetPages::layOut()
             layOutRows(context.name, heading, rows);
             heading.clear();
         }
+    }
+    if (!m_sheet.keyboards().empty())
+        layOutKeyboards();
+}
+
+/// On pages of their own, in one column.
+void SheetPages::layOutKeyboards()
+{
+    m_column = m_columnCount - 1;
+    startColumn();
+    m_columnCount = 1;
+    m_columnWidth = m_device.width();
+    const QString name = SheetText::keyboardHeading();
+    std::vector<Item> heading = {item(Context, name)};
+    for (const HotkeyKeyboard &keyboard : m_sheet.keyboards()) {
+        heading.push_back(item(Category, HotkeyKeyboard::textOf(keyboard.modifiers())));
+        layOutRows(name, heading, {picture(keyboard)});
+        heading.clear();
     }
 }
 
@@ -188,6 +227,19 @@ bool SheetPages::paint() const
 
 void SheetPages::paintItem(QPainter &painter, const Item &item) const
 {
+    if (item.picture == nullptr) {
+        paintText(painter, item);
+        return;
+    }
+    QPalette paper;
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    painter.setFont(face(Picture).font);
+    item.picture->paint(painter, QRectF(item.x, item.y, item.width, item.height), paper);
+}
+
+void SheetPages::paintText(QPainter &painter, const Item &item) const
+{
     const Face &face = this->face(item.style);
     painter.setFont(face.font);
     painter.setPen(QPen(item.style == Category ? QColor(0x55, 0x5b, 0x62) : QColor(Qt::black)));
@@ -200,7 +252,7 @@ void SheetPages::paintItem(QPainter &painter, const Item &item) const
         y -= face.metrics.lineSpacing();
     for (const QString &line : item.right) {
         const double width = face.metrics.horizontalAdvance(line);
-        painter.drawText(QPointF(item.x + m_columnWidth - width, y), line);
+        painter.drawText(QPointF(item.x + item.width - width, y), line);
         y += face.metrics.lineSpacing();
     }
     if (item.style == Row || item.style == Context) {
@@ -208,7 +260,7 @@ void SheetPages::paintItem(QPainter &painter, const Item &item) const
         painter.setPen(QPen(isRow ? QColor(0xc8, 0xcd, 0xd2) : QColor(Qt::black),
                             points(isRow ? 0.4 : 0.8)));
         const double bottom = item.y + item.height - points(0.5);
-        painter.drawLine(QPointF(item.x, bottom), QPointF(item.x + m_columnWidth, bottom));
+        painter.drawLine(QPointF(item.x, bottom), QPointF(item.x + item.width, bottom));
     }
 }
 

@@ -14,6 +14,7 @@ class QPainter;
 
 namespace CUI {
 
+class HotkeyKeyboard;
 class HotkeySheet;
 
 /// A sheet laid out in columns on the pages of a device.
@@ -30,18 +31,20 @@ public:
     const std::vector<PdfBookmark> &bookmarks() const { return m_bookmarks; }
 
 private:
-    enum Style { Title, Context, Category, Row, Footer };
+    enum Style { Title, Context, Category, Row, Footer, Picture };
     struct Face {
         QFont font;
         QFontMetricsF metrics;
         double above; // the space above, except at the top of a column
     };
-    /// A heading or an action, with its hotkeys on the right.
+    /// A heading, an action with its hotkeys on the right, or a picture.
     struct Item {
         Style style = Row;
         QStringList left;
         QStringList right;
         bool isBeside = true; // the right lines begin beside the left ones, not below
+        const HotkeyKeyboard *picture = nullptr;
+        double width = 0.0;
         double height = 0.0;
         int page = 0;
         double x = 0.0;
@@ -53,16 +56,19 @@ private:
     double points(double value) const { return value * m_dotsPerPoint; }
     QStringList lines(Style style, const QString &text, double width) const;
     Item item(Style style, const QString &left, const QString &right = QString()) const;
+    Item picture(const HotkeyKeyboard &keyboard) const;
 
     void layOut();
     void layOutRows(const QString &context, const std::vector<Item> &heading,
                     const std::vector<Item> &rows);
+    void layOutKeyboards();
     bool fits(double height) const { return m_y <= m_top || m_y + height <= m_bottom; }
     double heightOf(const Item &item) const { return face(item.style).above + item.height; }
     void place(Item item);
     void startColumn();
 
     void paintItem(QPainter &painter, const Item &item) const;
+    void paintText(QPainter &painter, const Item &item) const;
     void paintFooter(QPainter &painter, int page) const;
 
     const HotkeySheet &m_sheet;

@@ -111,6 +111,11 @@ QString shownHotkey(const QString &hotkey)
     return oneLine(shown.isEmpty() ? hotkey : shown);
 }
 
+QString keyboardHeading()
+{
+    return QCoreApplication::translate("CUI::QvelKeyboardWidget", "Keyboard");
+}
+
 QByteArray markdown(const HotkeySheet &sheet)
 {
     QString text = QStringLiteral("# %1\n").arg(escaped(sheet.title()));

@@ -17,6 +17,9 @@ QString oneLine(const QString &text);
 /// The name of the hotkey in the user's language, on one line; a text that names no key as it is.
 QString shownHotkey(const QString &hotkey);
 
+/// The heading of the pictures of a keyboard.
+QString keyboardHeading();
+
 QByteArray markdown(const HotkeySheet &sheet);
 QByteArray csv(const HotkeySheet &sheet);
 

@@ -1,6 +1,5 @@
 #include "QvelKeyboardWidget.h"
 
-#include "HotkeyKeyboard.h"
 #include "HotkeyRecorder.h"
 #include "ICuiActionManager.h"
 #include "KeyNames.h"
@@ -282,6 +281,13 @@ void QvelKeyboardWidget::setKeyboardLayout(const KeyboardLayout &layout)
 {
     d->givenLayout = layout;
     d->readLayout();
+}
+
+HotkeyKeyboard QvelKeyboardWidget::keyboard() const
+{
+    HotkeyKeyboard copy(d->keyboard);
+    copy.readHotkeys(*d->manager);
+    return copy;
 }
 
 void QvelKeyboardWidget::setCurrentAction(const ActionIdentifier &action)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HotkeyAudit.h"
+#include "HotkeyKeyboard.h"
 #include "KeyboardLayout.h"
 #include "UiCustomizationsExport.h"
 
@@ -42,8 +43,8 @@ public:
     explicit QvelKeyboardWidget(QvelShortcutManager *manager, QWidget *parent = nullptr);
     ~QvelKeyboardWidget() override;
 
-    /// The contexts that count everywhere, and the systems whose reservations count; other options
-    /// have no effect. At first no context counts everywhere, and the systems are
+    /// The contexts that count everywhere or together, and the systems whose reservations count;
+    /// other options have no effect. At first no context counts everywhere, and the systems are
     /// HotkeyReservation::systemsHere().
     void setOptions(const HotkeyAudit::Options &options);
 
@@ -60,6 +61,10 @@ public:
 
     /// Shows this layout in place of the one in use.
     void setKeyboardLayout(const KeyboardLayout &layout);
+
+    /// A copy of the keyboard that is shown, with the hotkeys that are in effect now; to print it
+    /// on a HotkeySheet, for example.
+    HotkeyKeyboard keyboard() const;
 
     /// The action that the context menu of a key offers to assign; the empty identifier for none.
     /// The host sets it, to the selected action of its editor for example.

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void refuses();
     void keepsTheOldFileOnAFullDisk();
     void writesEveryFormat();
+    void drawsTheKeyboard();
 
 private:
     ToolHost m_host;
@@ -56,6 +57,9 @@ void HotkeyCtlSheetTest::refuses_data()
     row("-o @/new.pdf --paper a3", 2, "a4 or letter");
     row("-o @/new.md --changed --all", 2, "exclude each other");
     row("-o @/new.md --search a --search-hotkey A", 2, "exclude each other");
+    row("-o @/new.md --keyboard", 2, "--keyboard needs a FILE that ends in .html or .pdf");
+    row("-o @/new.pdf --layout de", 2, "need --keyboard");
+    row("-o @/new.pdf --keyboard --layout xx", 2, "--layout takes us, gb");
     row("-o @/new.md --context Nowhere", 1, "no context 'Nowhere'");
     row("-o @/host/presets/new.md", 1, "are shipped with the host");
     row("-o @/none/new.md", 1, "its folder does not exist");
@@ -94,6 +98,13 @@ void HotkeyCtlSheetTest::writesEveryFormat()
         const QByteArray written = ToolHost::read(m_host.path(s("keys.") + format.key()));
         QVERIFY2(written.startsWith(format.value()), written.left(100));
     }
+}
+
+void HotkeyCtlSheetTest::drawsTheKeyboard()
+{
+    m_host.run(s("sheet -o @/keys.html --keyboard --layout de")).done();
+    const QByteArray page = ToolHost::read(m_host.path("keys.html"));
+    QVERIFY(page.contains("<svg") && page.contains(">\xC3\x9C</text>"));
 }
 
 QTEST_GUILESS_MAIN(HotkeyCtlSheetTest)

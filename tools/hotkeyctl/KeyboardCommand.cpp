@@ -1,10 +1,8 @@
 #include "Commands.h"
 
+#include "KeyboardOptions.h"
 #include "OutputFile.h"
 #include "Session.h"
-#include "TextOutput.h"
-
-#include <UiCustomizations/HotkeyKeyboard.h>
 
 #include <QCommandLineParser>
 #include <QKeySequence>
@@ -13,8 +11,6 @@
 namespace HotkeyCtl {
 
 namespace {
-
-using CUI::KeyboardLayout;
 
 /// The modifiers of a text such as Ctrl+Shift; nothing when it names anything else.
 std::optional<Qt::KeyboardModifiers> modifiersOf(const QString &text)
@@ -26,16 +22,6 @@ std::optional<Qt::KeyboardModifiers> modifiersOf(const QString &text)
     if (withKey.count() != 1 || (withKey[0] & ~known) != Qt::Key_A)
         return {};
     return Qt::KeyboardModifiers(withKey[0] & known);
-}
-
-std::optional<KeyboardLayout::Shape> shapeOf(const QString &text)
-{
-    const QMap<QString, KeyboardLayout::Shape> shapes = {
-            {QStringLiteral("ansi"), KeyboardLayout::Shape::Ansi},
-            {QStringLiteral("iso"), KeyboardLayout::Shape::Iso},
-            {QStringLiteral("jis"), KeyboardLayout::Shape::Jis}};
-    const auto found = shapes.find(text);
-    return found != shapes.end() ? std::optional(found.value()) : std::nullopt;
 }
 
 /// The ids of the contexts that are named; none when all count. Nothing, after telling so, when no
@@ -64,17 +50,10 @@ ExitCode run(const QCommandLineParser &line, Session &session)
         return session.wrongUsage(
                 QStringLiteral("--modifiers takes Ctrl, Shift, Alt or several joined by +"));
     }
-    auto layout = KeyboardLayout::named(line.value(QStringLiteral("layout")));
-    if (!layout) {
-        return session.wrongUsage(QStringLiteral("--layout takes %1")
-                                          .arg(KeyboardLayout::names().join(QStringLiteral(", "))));
-    }
-    if (const auto text = optionValue(line, QStringLiteral("shape"))) {
-        const auto shape = shapeOf(*text);
-        if (!shape)
-            return session.wrongUsage(QStringLiteral("--shape takes ansi, iso or jis"));
-        layout->setShape(*shape);
-    }
+    QString fault;
+    const auto layout = layoutOf(line, fault);
+    if (!layout)
+        return session.wrongUsage(fault);
 
     const Session::Loading loading = session.load();
     if (loading == Session::Loading::Failed)
@@ -82,15 +61,10 @@ ExitCode run(const QCommandLineParser &line, Session &session)
     const auto contexts = chosenContexts(line.values(QStringLiteral("context")), session);
     if (!contexts)
         return ExitCode::Problem;
-    CUI::HotkeyKeyboard keyboard(*layout);
-    CUI::HotkeyAudit::Options options;
-    options.everywhere = session.catalogue().everywhere();
-    options.isEverywhereOrdered = true;
-    keyboard.setOptions(options);
+    CUI::HotkeyKeyboard keyboard = keyboardOf(*layout, session);
     keyboard.setContexts(*contexts);
     keyboard.setModifiers(*modifiers);
-    keyboard.readHotkeys(session.store());
-    const QString fault = writeWhole(path, keyboard.toSvg());
+    fault = writeWhole(path, keyboard.toSvg());
     if (!fault.isEmpty())
         return session.problem(QStringLiteral("%1: cannot be written: %2").arg(path, fault));
     return loading == Session::Loading::Complete ? ExitCode::Done : ExitCode::Problem;
@@ -123,13 +97,8 @@ Command keyboardCommand()
             {QStringLiteral("modifiers"),
              QStringLiteral("The modifiers that are held, such as Ctrl+Shift."),
              QStringLiteral("KEYS")},
-            {QStringLiteral("layout"),
-             QStringLiteral("The labels: us (if not given), gb, de, fr, br, jp or ru."),
-             QStringLiteral("NAME"), QStringLiteral("us")},
-            {QStringLiteral("shape"),
-             QStringLiteral("ansi, iso or jis, if not the one that goes with the layout."),
-             QStringLiteral("SHAPE")},
     };
+    command.options += keyboardOptions();
     command.run = run;
     return command;
 }

@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "KeyboardOptions.h"
 #include "OutputFile.h"
 #include "Session.h"
 #include "TextOutput.h"
@@ -22,6 +23,7 @@ const QString changed = QStringLiteral("changed");
 const QString all = QStringLiteral("all");
 const QString paper = QStringLiteral("paper");
 const QString title = QStringLiteral("title");
+const QString keyboard = QStringLiteral("keyboard");
 
 /// Nothing, after telling why, when a context is not there.
 std::optional<CUI::ActionFilter> filterOf(const QCommandLineParser &line, const Session &session)
@@ -55,6 +57,14 @@ QString fault(const QCommandLineParser &line)
         return QStringLiteral("FILE has to end in .html, .pdf, .md or .csv, unlike '%1'")
                 .arg(line.value(output));
     }
+    if (hasKeyboardOptions(line) && !line.isSet(keyboard))
+        return QStringLiteral("--layout and --shape need --keyboard");
+    using Format = CUI::HotkeySheet::Format;
+    const auto format = CUI::HotkeySheet::formatOf(line.value(output));
+    if (line.isSet(keyboard) && format != Format::Html && format != Format::Pdf) {
+        return QStringLiteral("--keyboard needs a FILE that ends in .html or .pdf, since tables "
+                              "have no pictures");
+    }
     if (line.isSet(changed) && line.isSet(all))
         return QStringLiteral("--changed and --all exclude each other");
     if (line.isSet(search) && line.isSet(searchHotkey))
@@ -75,7 +85,8 @@ QPageSize pageSizeOf(const QCommandLineParser &line)
 
 ExitCode run(const QCommandLineParser &line, Session &session)
 {
-    const QString wrong = fault(line);
+    QString wrong = fault(line);
+    const auto layout = layoutOf(line, wrong);
     if (!wrong.isEmpty())
         return session.wrongUsage(wrong);
     const Session::Loading loading = session.load();
@@ -88,6 +99,8 @@ ExitCode run(const QCommandLineParser &line, Session &session)
     CUI::HotkeySheet sheet(session.store(), *filter);
     if (line.isSet(title))
         sheet.setTitle(line.value(title));
+    if (line.isSet(keyboard))
+        sheet.setKeyboard(keyboardOf(*layout, session));
     const QString path = line.value(output);
     const QString reason = reasonAgainstPlace(path, session.presetDirectory());
     if (!reason.isEmpty())
@@ -120,6 +133,10 @@ QList<QCommandLineOption> options()
             {paper, QStringLiteral("The size of a PDF's pages: a4 or letter."),
              QStringLiteral("SIZE")},
             {title, QStringLiteral("The heading, in place of 'Hotkeys'."), QStringLiteral("TEXT")},
+            {keyboard,
+             QStringLiteral(
+                     "Pictures of the keyboard behind the list, in HTML and PDF: one for each\n"
+                     "combination of Ctrl, Shift and Alt that has hotkeys.")},
     };
 }
 
@@ -132,7 +149,8 @@ Command sheetCommand()
     command.synopsis =
             QStringLiteral("(-o | --output) FILE [--context NAME]... [--category NAME]... "
                            "[--search TEXT | --search-hotkey SHORTCUT] [--changed | --all] "
-                           "[--paper SIZE] [--title TEXT]");
+                           "[--paper SIZE] [--title TEXT] "
+                           "[--keyboard [--layout NAME] [--shape SHAPE]]");
     command.summary = QStringLiteral("write a sheet of the hotkeys to print or to read");
     command.description = QStringLiteral(
             "Writes the hotkeys in effect, those of the base with the set on top, by context and\n"
@@ -145,8 +163,11 @@ Command sheetCommand()
             "exit status is 1.\n"
             "\n"
             "Example: the keys of two contexts, to print\n"
-            "  hotkeyctl sheet -o keys.pdf --context Mesh --context UV --paper a4\n");
-    command.options = options();
+            "  hotkeyctl sheet -o keys.pdf --context Mesh --context UV --paper a4\n"
+            "\n"
+            "Example: all keys, with pictures of a German keyboard\n"
+            "  hotkeyctl sheet -o keys.html --keyboard --layout de\n");
+    command.options = options() + keyboardOptions();
     command.run = run;
     return command;
 }
