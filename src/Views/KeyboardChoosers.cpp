@@ -1,14 +1,15 @@
 #include "KeyboardChoosers.h"
 
 #include "EditorText.h"
+#include "HotkeyKeyboard.h"
 #include "ICuiActionManager.h"
 #include "VelActionContext.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
-#include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
@@ -84,14 +85,13 @@ void KeyboardChoosers::buildModifiers()
 {
     for (const Qt::KeyboardModifier modifier :
          {Qt::ControlModifier, Qt::AltModifier, Qt::ShiftModifier}) {
-        auto *button = new QToolButton;
-        button->setObjectName(QStringLiteral("QvelKeyboardWidget_modifier%1").arg(modifier, 0, 16));
-        button->setCheckable(true);
-        button->setFocusPolicy(Qt::StrongFocus);
-        connect(button, &QToolButton::clicked, this,
+        // A check mark is clear in every palette, other than a pressed tool button.
+        auto *box = new QCheckBox;
+        box->setObjectName(QStringLiteral("QvelKeyboardWidget_modifier%1").arg(modifier, 0, 16));
+        connect(box, &QCheckBox::clicked, this,
                 [this, modifier] { Q_EMIT modifierToggled(modifier); });
-        layout()->addWidget(button);
-        m_modifiers.emplace_back(modifier, button);
+        layout()->addWidget(box);
+        m_modifiers.emplace_back(modifier, box);
     }
 }
 
@@ -181,8 +181,8 @@ bool KeyboardChoosers::eventFilter(QObject *watched, QEvent *event)
 
 void KeyboardChoosers::showModifiers(Qt::KeyboardModifiers modifiers)
 {
-    for (const auto &[modifier, button] : m_modifiers)
-        button->setChecked((modifiers & modifier) != 0);
+    for (const auto &[modifier, box] : m_modifiers)
+        box->setChecked((modifiers & modifier) != 0);
 }
 
 void KeyboardChoosers::retranslate()
@@ -193,11 +193,8 @@ void KeyboardChoosers::retranslate()
     m_shapeLabel->setText(tr("Shape:"));
     m_shapes->setAccessibleName(m_shapeLabel->text());
     m_shapes->setItemText(0, tr("Of the layout in use"));
-    for (const auto &[modifier, button] : m_modifiers) {
-        QString name = QKeySequence(static_cast<int>(modifier)).toString(QKeySequence::NativeText);
-        name.chop(1); // a plus sign follows it
-        button->setText(name);
-    }
+    for (const auto &[modifier, box] : m_modifiers)
+        box->setText(HotkeyKeyboard::textOf(modifier));
     showContexts();
 }
 

@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QMenu;
@@ -25,7 +26,7 @@ public:
     const std::vector<unsigned long> &contexts() const { return m_contexts; }
     /// Does not emit contextsChosen().
     void setContexts(const std::vector<unsigned long> &contexts);
-    /// Shows the modifiers as pressed, chosen or not. Emits nothing.
+    /// Checks the modifiers, chosen or held. Emits nothing.
     void showModifiers(Qt::KeyboardModifiers modifiers);
     /// The shape in place of that of the layout; nothing for that one.
     std::optional<KeyboardLayout::Shape> shape() const;
@@ -51,7 +52,7 @@ private:
     QToolButton *m_contextsButton;
     QMenu *m_menu;
     QLabel *m_modifiersLabel;
-    std::vector<std::pair<Qt::KeyboardModifier, QToolButton *>> m_modifiers;
+    std::vector<std::pair<Qt::KeyboardModifier, QCheckBox *>> m_modifiers;
     QLabel *m_shapeLabel;
     QComboBox *m_shapes;
 };
