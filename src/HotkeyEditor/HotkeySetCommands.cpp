@@ -1,166 +1,32 @@
 #include "HotkeySetCommands.h"
 
+#include "CurrentSet.h"
 #include "HotkeyFileInput.h"
 #include "HotkeySetDialogs.h"
 #include "HotkeySetFile.h"
 #include "InstalledPaths.h"
 #include "LoadResult.h"
 #include "PresetMetadata.h"
-#include "QvelPresetComboBox.h"
 #include "QvelShortcutManager.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QPointer>
-#include <QSignalBlocker>
 
 namespace CUI {
 
-namespace {
-
-QString currentSetPath()
-{
-    return installedPaths().getCurrentConfigurationFile(ConfigType::HotkeySet);
-}
-
-void recordCurrentSet(const QString &path)
-{
-    installedPaths().setCurrentConfigurationFile(ConfigType::HotkeySet, path);
-}
-
-// Named as the list names it: shipped sets by the translations of the text in their files.
-Preset presetOf(const QString &path, bool locked, const QString &name)
-{
-    return Preset(path, locked,
-                  name.isEmpty() ? name
-                                 : QCoreApplication::translate("CUI", name.toUtf8().constData()));
-}
-
-// True for a file that the list of sets has, or will have once it is there and valid.
-bool isPlaceOfSets(const QString &path)
-{
-    const IPathManager &paths = installedPaths();
-    const QFileInfo file(path);
-    if (file.suffix().compare(QLatin1String("hsx"), Qt::CaseInsensitive) != 0)
-        return false;
-    for (const QString &directory :
-         {paths.getDefaultPresetDirectory(), paths.getUserPresetDirectory()}) {
-        if (!directory.isEmpty() && file.dir() == QDir(directory))
-            return true;
-    }
-    return false;
-}
-
-} // namespace
-
-HotkeySetCommands::HotkeySetCommands(QWidget *editor, QvelPresetComboBox *comboBox,
+HotkeySetCommands::HotkeySetCommands(QWidget *editor, CurrentSet *current,
                                      QvelShortcutManager *manager)
-    : QObject(editor), m_editor(editor), m_comboBox(comboBox), m_manager(manager)
+    : QObject(editor), m_editor(editor), m_current(current), m_manager(manager)
 {
-}
-
-// State
-
-void HotkeySetCommands::showStoreState()
-{
-    const QString path = currentSetPath();
-    if (!path.isEmpty())
-        setCurrentPreset(describe(path));
-    selectSilently(m_currentPreset);
-    if (m_manager->isUserModified())
-        markModified();
-}
-
-Preset HotkeySetCommands::describe(const QString &filePath) const
-{
-    const QString path = QDir::cleanPath(filePath); // as the combo box lists it
-    const int index = m_comboBox->findPreset(Preset(path, false, QString()));
-    if (index >= 0)
-        return m_comboBox->presetFromIndex(index);
-    bool locked = false;
-    QString name;
-    QvelShortcutManager::peekPresetMetadata(path, locked, name);
-    return presetOf(path, locked, name);
-}
-
-void HotkeySetCommands::setCurrentPreset(const Preset &preset)
-{
-    m_currentPreset = preset;
-    const QSignalBlocker blocker(m_comboBox);
-    if (preset.isValid())
-        enlist(preset);
-    m_comboBox->setCurrentPreset(preset);
-    m_comboBox->update();
-}
-
-void HotkeySetCommands::enlist(const Preset &preset)
-{
-    if (m_comboBox->containsPreset(preset))
-        return;
-    m_comboBox->updatePresets(ConfigType::HotkeySet, false); // its file may have come meanwhile
-    if (m_comboBox->containsPreset(preset))
-        return;
-    if (!isPlaceOfSets(preset.path())) {
-        m_comboBox->addNotInPathPreset(preset, false);
-        return;
-    }
-    // Remembered, it would be listed twice once its file is found. So it only stays while it is the
-    // current one.
-    m_comboBox->addItem(preset.name(), QVariant::fromValue(preset));
-    m_comboBox->setCurrentPreset(preset);
-    m_comboBox->updatePresets(ConfigType::HotkeySet, true);
-}
-
-void HotkeySetCommands::refreshList()
-{
-    const QSignalBlocker blocker(m_comboBox);
-    m_comboBox->setCurrentPreset(m_currentPreset);
-    m_comboBox->updatePresets(ConfigType::HotkeySet, true);
-    const int index = m_comboBox->setCurrentPreset(m_currentPreset); // none, if there was none
-    if (index >= 0)
-        m_currentPreset = m_comboBox->presetFromIndex(index);
-    m_comboBox->update();
-}
-
-void HotkeySetCommands::selectSilently(const Preset &preset)
-{
-    const QSignalBlocker blocker(m_comboBox);
-    m_comboBox->setCurrentPreset(preset);
-    m_comboBox->update();
-}
-
-void HotkeySetCommands::markModified()
-{
-    if (m_modified)
-        return;
-    m_modified = true;
-    Q_EMIT presetModified(true);
-}
-
-void HotkeySetCommands::unmarkModified(bool invalidate)
-{
-    if (invalidate)
-        Q_EMIT rowsInvalidated();
-    followUnmodified();
-}
-
-void HotkeySetCommands::followUnmodified()
-{
-    if (!m_modified)
-        return;
-    m_modified = false;
-    Q_EMIT selectedActionInvalidated();
-    Q_EMIT presetModified(false);
 }
 
 // Choosing and loading
 
-void HotkeySetCommands::choosePreset(int index)
+void HotkeySetCommands::choosePreset(const Preset &chosen)
 {
-    const Preset chosen = m_comboBox->presetFromIndex(index);
-    if (m_isChoosing || !chosen.isValid() || chosen == m_currentPreset)
+    if (m_isChoosing || !chosen.isValid() || chosen == m_current->preset())
         return;
     // The questions change the list and its selection themselves.
     m_isChoosing = true;
@@ -175,40 +41,22 @@ void HotkeySetCommands::loadChosen(const Preset &chosen)
     const QPointer<HotkeySetCommands> self(this);
     if (!maybeSaveChanges()) {
         if (!self.isNull())
-            selectSilently(m_currentPreset);
+            m_current->select();
         return;
     }
     if (!QFile::exists(chosen.path())) {
         HotkeySetDialogs::popupFileNotFoundInfoDlg(m_editor, chosen.name());
-        if (self.isNull())
-            return;
-        const QSignalBlocker blocker(m_comboBox);
-        m_comboBox->removePreset(chosen);
-        m_comboBox->setCurrentPreset(m_currentPreset);
+        if (!self.isNull())
+            m_current->removeFromList(chosen, m_current->preset());
         return;
     }
     HotkeyFileInput file(chosen.path());
     if (!file.validate(HotkeyFileInput::Kind::Set)) {
-        selectSilently(m_currentPreset);
+        m_current->select();
         HotkeySetDialogs::showLoadFailure(m_editor, chosen.path(), file.fault());
         return;
     }
     m_manager->loadConfiguration(chosen.path(), &file);
-}
-
-void HotkeySetCommands::leaveComboBox()
-{
-    if (!m_isChoosing)
-        return;
-    m_comboBox->setParent(nullptr);
-    m_comboBox->deleteLater();
-}
-
-void HotkeySetCommands::followLoadedConfiguration(const QString &path)
-{
-    setCurrentPreset(path.isEmpty() ? Preset() : describe(path));
-    Q_EMIT setReplaced();
-    unmarkModified(true);
 }
 
 LoadResult HotkeySetCommands::loadPresetTransformations(const QString &path, Preset &preset) const
@@ -220,7 +68,7 @@ LoadResult HotkeySetCommands::loadPresetTransformations(const QString &path, Pre
         return {LoadResult::Extent::Nothing, file.fault()};
     const LoadResult loaded = m_manager->loadSet(file);
     if (loaded.isComplete())
-        preset = presetOf(path, locked, name);
+        preset = CurrentSet::namedPreset(path, locked, name);
     return loaded;
 }
 
@@ -235,26 +83,10 @@ void HotkeySetCommands::loadFromFile()
         HotkeySetDialogs::showLoadFailure(m_editor, path, loaded.fault);
         return;
     }
-    adoptLoadedSet(preset);
+    m_current->adopt(preset);
 }
 
-// The steps of the set are loaded; makes it the current one everywhere.
-void HotkeySetCommands::adoptLoadedSet(const Preset &preset)
-{
-    setCurrentPreset(preset);
-    recordCurrentSet(preset.path());
-    Q_EMIT setReplaced();
-    unmarkModified(true);
-}
-
-// What the store has now belongs to no set.
-void HotkeySetCommands::leaveSet()
-{
-    setCurrentPreset(Preset());
-    recordCurrentSet(QString());
-}
-
-// Asking before changes go
+// Asking before changes are lost
 
 bool HotkeySetCommands::fileNotFoundDoUserPrompt(const Preset &preset, bool *result)
 {
@@ -264,13 +96,12 @@ bool HotkeySetCommands::fileNotFoundDoUserPrompt(const Preset &preset, bool *res
     *result = false;
     switch (HotkeySetDialogs::popupFileNotFoundSaveDlg(m_editor, missing.name())) {
     case QMessageBox::Save: {
-        Preset saved;
-        *result = saveAsChanges(saved);
-        if (*result && !saved.name().isEmpty() && saved.name() != missing.name()) {
-            const QSignalBlocker blocker(m_comboBox);
-            m_comboBox->removePreset(missing);
-            m_comboBox->setCurrentPreset(saved);
-        }
+        *result = saveAsChanges();
+        if (!*result)
+            break;
+        const Preset &saved = m_current->preset();
+        if (!saved.name().isEmpty() && saved.name() != missing.name())
+            m_current->removeFromList(missing, saved);
         break;
     }
     case QMessageBox::Discard:
@@ -285,26 +116,24 @@ bool HotkeySetCommands::fileNotFoundDoUserPrompt(const Preset &preset, bool *res
 
 void HotkeySetCommands::resetToDefault(const Preset &missing)
 {
-    unmarkModified(true);
+    m_current->unmarkModified(true);
     const QString path = installedPaths().getDefaultConfigurationFile(ConfigType::HotkeySet);
-    const Preset preset = path.isEmpty() ? Preset() : describe(path);
+    const Preset preset = path.isEmpty() ? Preset() : m_current->presetOfFile(path);
     m_manager->loadShortcutConfiguration(path);
-    const QSignalBlocker blocker(m_comboBox);
-    m_comboBox->removePreset(missing);
-    m_comboBox->setCurrentPreset(preset);
+    m_current->removeFromList(missing, preset);
 }
 
 bool HotkeySetCommands::maybeSaveChanges()
 {
-    if (!m_modified)
+    if (!m_current->isModified())
         return true;
     const QPointer<HotkeySetCommands> self(this);
     bool result = false;
-    if (fileNotFoundDoUserPrompt(m_currentPreset, &result))
+    if (fileNotFoundDoUserPrompt(m_current->preset(), &result))
         return result;
     switch (HotkeySetDialogs::popupSaveChangesDlg(m_editor)) {
     case QMessageBox::Save:
-        return saveChanges(m_currentPreset);
+        return saveChanges();
     case QMessageBox::Cancel:
         return false;
     case QMessageBox::Discard:
@@ -319,7 +148,7 @@ bool HotkeySetCommands::maybeSaveChanges()
 bool HotkeySetCommands::maybeDiscardChanges()
 {
     bool result = false;
-    if (fileNotFoundDoUserPrompt(m_currentPreset, &result))
+    if (fileNotFoundDoUserPrompt(m_current->preset(), &result))
         return result;
     if (HotkeySetDialogs::popupResetChangesDlg(m_editor) != QMessageBox::Discard)
         return false;
@@ -330,7 +159,7 @@ bool HotkeySetCommands::maybeDiscardChanges()
 
 void HotkeySetCommands::discardChanges()
 {
-    Preset preset = m_currentPreset;
+    Preset preset = m_current->preset();
     if (!preset.isValid()) {
         m_manager->clearTransforms(); // no file holds anything to return to
     } else {
@@ -340,12 +169,9 @@ void HotkeySetCommands::discardChanges()
             HotkeySetDialogs::showLoadFailure(m_editor, preset.path(), loaded.fault);
             return;
         }
-        m_currentPreset = preset;
-        selectSilently(preset);
-        const QSignalBlocker blocker(m_comboBox);
-        m_comboBox->modifyCurrentPreset(preset);
+        m_current->update(preset);
     }
-    unmarkModified(true);
+    m_current->unmarkModified(true);
 }
 
 // Saving
@@ -353,26 +179,27 @@ void HotkeySetCommands::discardChanges()
 bool HotkeySetCommands::saveCurrent()
 {
     const QPointer<HotkeySetCommands> self(this);
-    const bool saved = saveChanges(m_currentPreset);
+    const bool saved = saveChanges();
     if (!self.isNull())
-        selectSilently(m_currentPreset);
+        m_current->select();
     return saved;
 }
 
 bool HotkeySetCommands::saveAs()
 {
-    const bool saved = saveAsChanges(m_currentPreset);
+    const bool saved = saveAsChanges();
     if (saved)
-        selectSilently(m_currentPreset);
+        m_current->select();
     return saved;
 }
 
-bool HotkeySetCommands::saveChanges(Preset &preset)
+bool HotkeySetCommands::saveChanges()
 {
+    const Preset preset = m_current->preset();
     const QString path = preset.path();
     // A locked set stays as it is, and one that has vanished gets the place that the user chooses.
     if (!preset.isValid() || !QFile::exists(path) || isLockedFile(path))
-        return saveAsChanges(preset);
+        return saveAsChanges();
     if (path == QDir::cleanPath(m_manager->transformsFile())
         && m_manager->hasTransformsFileChanged()) {
         const QPointer<HotkeySetCommands> self(this);
@@ -380,7 +207,7 @@ bool HotkeySetCommands::saveChanges(Preset &preset)
         if (self.isNull())
             return false;
         if (answer == QMessageBox::SaveAll)
-            return saveAsChanges(preset);
+            return saveAsChanges();
         if (answer != QMessageBox::Save)
             return false;
     }
@@ -388,19 +215,14 @@ bool HotkeySetCommands::saveChanges(Preset &preset)
         HotkeySetDialogs::showSaveFailure(m_editor, path);
         return false;
     }
-    unmarkModified(true);
+    m_current->unmarkModified(true);
     // The store writes neither a lock nor a name.
-    preset = presetOf(path, false, QFileInfo(path).completeBaseName());
-    selectSilently(preset);
-    {
-        const QSignalBlocker blocker(m_comboBox);
-        m_comboBox->modifyCurrentPreset(preset);
-    }
+    m_current->update(CurrentSet::namedPreset(path, false, QFileInfo(path).completeBaseName()));
     Q_EMIT modificationsSaved();
     return true;
 }
 
-bool HotkeySetCommands::saveAsChanges(Preset &preset)
+bool HotkeySetCommands::saveAsChanges()
 {
     const QString path = HotkeySetDialogs::askSaveSetPath(m_editor);
     if (path.isEmpty())
@@ -413,15 +235,8 @@ bool HotkeySetCommands::saveAsChanges(Preset &preset)
         HotkeySetDialogs::showSaveFailure(m_editor, path);
         return false;
     }
-    const Preset saved(path, false, QString());
-    unmarkModified(true);
-    {
-        const QSignalBlocker blocker(m_comboBox);
-        m_comboBox->updatePresets(ConfigType::HotkeySet, false);
-    }
-    setCurrentPreset(saved);
-    preset = saved;
-    recordCurrentSet(path);
+    m_current->unmarkModified(true);
+    m_current->adoptSaved(Preset(path, false, QString()));
     Q_EMIT modificationsSaved();
     return true;
 }

@@ -1,3 +1,4 @@
+#include "CurrentSet.h"
 #include "EditorText.h"
 #include "HotkeySetCommands.h"
 #include "HotkeySetDialogs.h"
@@ -19,7 +20,7 @@ namespace CUI {
 
 void HotkeySetCommands::openFileLocation() const
 {
-    const QString path = m_currentPreset.path();
+    const QString path = m_current->preset().path();
     if (QFile::exists(path)) {
         QvelCustomizeDialogHelper::showFileInFolder(path);
         return;
@@ -85,10 +86,10 @@ void HotkeySetCommands::loadConverted(const QString &path)
     Preset preset;
     const LoadResult loaded = loadPresetTransformations(QDir::cleanPath(path), preset);
     if (loaded.isComplete()) {
-        adoptLoadedSet(preset);
+        m_current->adopt(preset);
         return;
     }
-    refreshList();
+    m_current->refreshList();
     HotkeySetDialogs::showLoadFailure(m_editor, path, loaded.fault);
 }
 
@@ -145,10 +146,10 @@ void HotkeySetCommands::loadShortcuts()
     if (path.isEmpty() || !maybeSaveChanges())
         return;
     const LoadResult loaded = m_manager->loadBase(path);
-    if (loaded.isReplaced()) // the steps of the set are gone, and must not go from its file, too
-        leaveSet();
-    Q_EMIT rowsInvalidated();
-    Q_EMIT selectedActionInvalidated();
+    if (loaded.isReplaced()) // the next save must not remove the steps from the set's file
+        m_current->leave();
+    Q_EMIT m_current->rowsInvalidated();
+    Q_EMIT m_current->selectedActionInvalidated();
     if (!loaded.isComplete())
         HotkeySetDialogs::showLoadFailure(m_editor, path, loaded.fault);
 }

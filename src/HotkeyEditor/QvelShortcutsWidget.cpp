@@ -18,12 +18,17 @@ QvelShortcutsWidget::QvelShortcutsWidget(QvelActionItemModel *model, QvelShortcu
 {
     d->build();
     d->connectAll();
-    d->commands->showStoreState();
+    d->currentSet->showStoreState();
 }
 
 QvelShortcutsWidget::~QvelShortcutsWidget()
 {
-    d->commands->leaveComboBox();
+    // The toolkit still needs a combo box whose signal has led to a question, until the question
+    // has returned.
+    if (!d->commands->isChoosing())
+        return;
+    d->form.hotkeySetComboBox->setParent(nullptr);
+    d->form.hotkeySetComboBox->deleteLater();
 }
 
 // Looks
@@ -44,7 +49,7 @@ void QvelShortcutsWidget::setTransformShortcutsColor(const QColor &color)
 void QvelShortcutsWidget::setPresetComboBoxItemIcon(const QIcon &icon)
 {
     d->form.hotkeySetComboBox->setLockIcon(icon);
-    d->commands->refreshList();
+    d->currentSet->refreshList();
 }
 
 void QvelShortcutsWidget::setToolButtonPresetOptionsIcon(const QIcon &icon)
@@ -120,17 +125,17 @@ void QvelShortcutsWidget::resetSelectedActionFields()
 
 bool QvelShortcutsWidget::isModified() const
 {
-    return d->commands->isModified();
+    return d->currentSet->isModified();
 }
 
 void QvelShortcutsWidget::markModified()
 {
-    d->commands->markModified();
+    d->currentSet->markModified();
 }
 
 void QvelShortcutsWidget::unmarkModified(bool invalidate)
 {
-    d->commands->unmarkModified(invalidate);
+    d->currentSet->unmarkModified(invalidate);
 }
 
 bool QvelShortcutsWidget::maybeSaveChanges()

@@ -81,7 +81,8 @@ void QvelShortcutsWidget::Private::build()
     setUpTree();
     panel = new ActionSelectionPanel(form, model, manager, proxy, delegate, q);
     search = new ActionSearch(form, proxy, q);
-    commands = new HotkeySetCommands(q, form.hotkeySetComboBox, manager);
+    currentSet = new CurrentSet(form.hotkeySetComboBox, manager, q);
+    commands = new HotkeySetCommands(q, currentSet, manager);
     setUpFields();
     alignFilterLabels();
     const int width = form.splitter->width();
@@ -124,7 +125,7 @@ void QvelShortcutsWidget::Private::followDirectory(const QString &changed)
     watchUserPresets();
     const QString directory = installedPaths().getUserPresetDirectory();
     if (changed == directory || watcher->directories().contains(directory))
-        commands->refreshList();
+        currentSet->refreshList();
 }
 
 void QvelShortcutsWidget::Private::setUpPresetComboBox()
@@ -226,14 +227,14 @@ void QvelShortcutsWidget::Private::restoreHeadersSizes()
 
 void QvelShortcutsWidget::Private::connectAll()
 {
-    connect(commands, &HotkeySetCommands::rowsInvalidated, q, [this] {
+    connect(currentSet, &CurrentSet::rowsInvalidated, q, [this] {
         proxy->invalidate();
         model->invalidateAllRows();
     });
-    connect(commands, &HotkeySetCommands::selectedActionInvalidated, panel,
+    connect(currentSet, &CurrentSet::selectedActionInvalidated, panel,
             &ActionSelectionPanel::updateSelectedActionShortcutList);
-    connect(commands, &HotkeySetCommands::setReplaced, panel, [this] { panel->clearSelection(); });
-    connect(commands, &HotkeySetCommands::presetModified, q, &QvelShortcutsWidget::presetModified);
+    connect(currentSet, &CurrentSet::setReplaced, panel, [this] { panel->clearSelection(); });
+    connect(currentSet, &CurrentSet::presetModified, q, &QvelShortcutsWidget::presetModified);
     connect(commands, &HotkeySetCommands::modificationsSaved, q,
             &QvelShortcutsWidget::modificationsSaved);
     connect(commands, &HotkeySetCommands::legacyHotkeySetConverted, q,
@@ -304,15 +305,17 @@ void QvelShortcutsWidget::Private::connectStore()
 void QvelShortcutsWidget::Private::connectCommands()
 {
     connect(form.hotkeySetComboBox, qOverload<int>(&QComboBox::currentIndexChanged), commands,
-            &HotkeySetCommands::choosePreset);
+            [this](int index) {
+                commands->choosePreset(form.hotkeySetComboBox->presetFromIndex(index));
+            });
     connect(form.savePresetButton, &QToolButton::clicked, commands,
             &HotkeySetCommands::saveCurrent);
-    connect(manager, &QvelShortcutManager::shortcutsModified, commands,
-            &HotkeySetCommands::markModified);
-    connect(manager, &QvelShortcutManager::shortcutsUnModified, commands,
-            &HotkeySetCommands::followUnmodified);
-    connect(manager, &QvelShortcutManager::shortcutConfigurationLoaded, commands,
-            &HotkeySetCommands::followLoadedConfiguration);
+    connect(manager, &QvelShortcutManager::shortcutsModified, currentSet,
+            &CurrentSet::markModified);
+    connect(manager, &QvelShortcutManager::shortcutsUnModified, currentSet,
+            &CurrentSet::clearModified);
+    connect(manager, &QvelShortcutManager::shortcutConfigurationLoaded, currentSet,
+            &CurrentSet::followLoadedConfiguration);
     connect(q, &QvelShortcutsWidget::presetModified, form.hotkeySetComboBox,
             &QvelPresetComboBox::setCurPresetModified);
 
@@ -398,7 +401,7 @@ void QvelShortcutsWidget::Private::retranslateFilters()
 // The names of shipped sets and the headers of the table are translated when they are set.
 void QvelShortcutsWidget::Private::retranslateLists()
 {
-    commands->refreshList();
+    currentSet->refreshList();
     model->setHorizontalHeaderLabels(
             {QvelActionItemModel::tr("Action"), QvelActionItemModel::tr("Hotkey"),
              QvelActionItemModel::tr("Group"), QvelActionItemModel::tr("Category")});

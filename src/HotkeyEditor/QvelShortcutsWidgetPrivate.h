@@ -3,6 +3,7 @@
 #include "ActionListTreeItemDelegate.h"
 #include "ActionSearch.h"
 #include "ActionSelectionPanel.h"
+#include "CurrentSet.h"
 #include "HotkeyEditorForm.h"
 #include "HotkeySetCommands.h"
 #include "QvelActionItemModel.h"
@@ -41,6 +42,7 @@ public:
     ActionListTreeItemDelegate *delegate = nullptr;
     ActionSelectionPanel *panel = nullptr;
     ActionSearch *search = nullptr;
+    CurrentSet *currentSet = nullptr;
     HotkeySetCommands *commands = nullptr;
     TransformationListDialog *transformationDialog = nullptr;
 
