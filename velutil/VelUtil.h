@@ -36,7 +36,7 @@ public:
 
     /// Replaces what the loaders of the process have installed by the files of @p locale, written
     /// as in "de-DE"; "en" returns to the texts of the source, an empty one to the user's language.
-    /// Widgets are told by a LanguageChange event. True when at least one loader has a file of that
+    /// Widgets get a LanguageChange event. True when at least one loader has a file of that
     /// language; without an application object it is false, and the locale is shown once there is
     /// one.
     static bool setLocale(const QString &locale);

@@ -34,7 +34,7 @@ const QString momentary = QStringLiteral("momentary");
 const QString accelerators = QStringLiteral("accelerators");
 } // namespace Key
 
-/// The first thing that was found wrong. Reading goes on with harmless values after it.
+/// The first thing that was found wrong. Reading continues with harmless values after it.
 class Fault
 {
 public:

@@ -102,8 +102,8 @@ QString HostPathManager::getDefaultConfigurationFile(CUI::ConfigType type) const
 
 void HostPathManager::setCurrentConfigurationFile(CUI::ConfigType type, const QString &path)
 {
-    // Loading the current set names it anew each time, which is no choice of the user's: a default
-    // stays one, and a file that is away for a while is not forgotten.
+    // Loading the current set sets its path again each time. That is not a choice of the user: a
+    // default remains the default, and a file that is missing for a while is not forgotten.
     if (absolute(path) != getCurrentConfigurationFile(type))
         chooseConfigurationFile(type, path);
 }
@@ -166,7 +166,7 @@ void HostPathManager::writeRecord() const
         return;
     }
     QSaveFile file(recordPath());
-    // Only flushing tells whether the last bytes could be written.
+    // Only flushing shows whether the last bytes could be written.
     if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.flush()
         || !file.commit()) {
         warn(QStringLiteral("The current set is not recorded: '%1' cannot be written: %2")

@@ -7,7 +7,7 @@
 
 namespace Host {
 
-/// The paths of an application: what it ships lies in its host directory, what the user makes in
+/// The paths of an application: what it ships is in its host directory, what the user makes in
 /// the user directory.
 ///
 ///     HOST/base/      base files, loaded in the order of their names

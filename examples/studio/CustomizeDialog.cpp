@@ -92,7 +92,7 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     connect(&CUI::QvelMessageLog::getInstance(), &CUI::QvelMessageLog::messageLogged, m_log,
             &CUI::QvelMessageLogWidget::append);
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
-    // The name of the set changes with the list, which is told before the manager of paths is.
+    // The list of sets is updated before the path manager, which the title asks.
     const auto later = [this] { QTimer::singleShot(0, this, &CustomizeDialog::showTitle); };
     connect(m_editor, &CUI::QvelShortcutsWidget::presetModified, this, later);
     connect(m_editor, &CUI::QvelShortcutsWidget::modificationsSaved, this, later);

@@ -30,8 +30,8 @@ class QvelShortcutManager;
 /// The first registers the actions of the window, their shortcuts as the default ones, and binds
 /// them; the second puts the user's hotkey set on top. Between the two no bound action has a
 /// shortcut, since the store is empty. What is adopted later has its default hotkeys from the next
-/// load on. Models, and the hotkey editor on top of them, are made after adopt(), or told to load
-/// their actions again. An application that registers its actions itself calls bind() for each of
+/// load on. Models, and the hotkey editor on top of them, are created after adopt(), or load their
+/// actions again. An application that registers its actions itself calls bind() for each of
 /// them, before or after a load.
 ///
 /// A bound action has the shortcuts that the store says are in effect, and shows the first of them

@@ -45,7 +45,7 @@ public:
     void build();
     void retranslate();
     void open();
-    /// Where the focus goes when the palette closes.
+    /// The widget that gets the focus back when the palette closes.
     enum class Focus { Back, Stays };
     void close(Focus focus);
     bool readKey(const QKeyEvent &event);

@@ -41,7 +41,7 @@ class CUI_EXPORT QvelCommandPalette : public QFrame
     Q_OBJECT
 
 public:
-    /// Tells why an action cannot run; an empty text for one that can.
+    /// Returns why an action cannot run; an empty text for one that can.
     using Reason = std::function<QString(const ActionIdentifier &action)>;
 
     /// A hidden palette. It owns neither @p model nor @p manager, which must not be null and must

@@ -24,7 +24,7 @@ ICuiActionManager *ICuiActionManager::get()
 
 void ICuiActionManager::set(std::unique_ptr<ICuiActionManager> &manager)
 {
-    // The old registry goes first, so that its destructor still finds nothing else installed.
+    // The old registry is destroyed first, so that its destructor finds no other one installed.
     theCuiActionManager.reset();
     theCuiActionManager = std::move(manager);
 }

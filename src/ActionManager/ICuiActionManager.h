@@ -22,7 +22,7 @@ class QvelShortcutManager;
 /// The host derives from it, fills it at start-up and installs it with set(). The library only
 /// reads it, through the virtual functions, so a subclass may answer from a source of its own.
 /// Every use is on the user-interface thread. The registry owns its actions and contexts: a pointer
-/// it hands out is valid until the next call that adds, renames, removes or clears.
+/// it returns is valid until the next call that adds, renames, removes or clears.
 ///
 /// No operation reports an error: an unknown id gives null, false or nothing at all, and adding
 /// under a key that is taken replaces what was there.

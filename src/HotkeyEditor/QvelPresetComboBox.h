@@ -44,9 +44,10 @@ public:
     /// first.
     void updatePresets(ConfigType type, bool keepCurrent);
 
-    /// Adds a preset that lies elsewhere, unless it is listed, and keeps it over updatePresets().
-    /// With @p select it is selected, listed before or not. Selecting emits as setCurrentIndex()
-    /// does; so does the first entry of an empty box, which becomes current by itself.
+    /// Adds a preset from another directory, unless it is listed, and keeps it over
+    /// updatePresets(). With @p select it is selected, listed before or not. Selecting emits as
+    /// setCurrentIndex() does; so does the first entry of an empty box, which becomes current by
+    /// itself.
     void addNotInPathPreset(const Preset &preset, bool select);
 
     /// True when an entry carries the preset.

@@ -24,9 +24,9 @@ struct CachedMetadata {
 constexpr qint64 nanosecondsPerMillisecond = 1000000;
 constexpr qint64 nanosecondsPerSecond = 1000 * nanosecondsPerMillisecond;
 
-// Two writes within one tick of the file system's clock leave the same time behind. So what was
-// read is only remembered once that clock has moved on; a time without fraction of a second speaks
-// of a file system that counts in seconds or two.
+// Two writes within one tick of the file system's clock have the same time. So a result is only
+// cached once that clock has advanced; a time without a fraction of a second may come from a file
+// system that counts in steps of one or two seconds.
 bool isSettled(const Stamp &stamp, qint64 now)
 {
     const bool countsSeconds = stamp.changed % nanosecondsPerSecond == 0;

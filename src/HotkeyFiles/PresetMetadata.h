@@ -17,8 +17,8 @@ bool peek(const QString &path, bool &locked, QString &name);
 /// The same for a file that has been read.
 CUI_CORE_EXPORT bool peek(HotkeyFileInput &file, bool &locked, QString &name);
 
-/// The same result, from memory when neither the file nor the schema has changed since it was
-/// found. Files that fail are looked at anew every time, so that the log names them every time.
+/// The same result, from a cache while neither the file nor the schema changes. Files that fail
+/// are read again every time, so that the log names them every time.
 bool peekCached(const QString &path, bool &locked, QString &name);
 
 } // namespace PresetMetadata

@@ -10,7 +10,7 @@ namespace CUI {
 
 /// A text as the key of a hash map that ignores letter case in exactly the way that
 /// QString::compare(Qt::CaseInsensitive) does. QString::toCaseFolded() would not do: it folds some
-/// letters to several, so that texts meet which the comparison tells apart.
+/// letters to several, so that texts which the comparison distinguishes would be equal.
 struct CaseInsensitiveKey {
     QString text;
 };

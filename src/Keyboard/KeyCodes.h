@@ -4,7 +4,7 @@
 
 namespace CUI {
 
-/// Keys that are told from others, by the numbers of the Linux kernel.
+/// Keys with a meaning of their own, by the key codes of the Linux kernel.
 namespace KeyCodes {
 
 constexpr int backspace = 14;

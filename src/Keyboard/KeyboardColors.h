@@ -6,9 +6,9 @@
 
 namespace CUI {
 
-/// The colours of the picture of a keyboard, made of two of a palette. Hues are told apart by those
-/// who do not see red or green as others do (the set of Okabe and Ito), and never tell anything
-/// that hatching and symbol do not tell.
+/// The colours of the picture of a keyboard, mixed from two of a palette. Users who are red-green
+/// colour-blind can distinguish the hues (the set of Okabe and Ito). No state is shown by its hue
+/// alone: hatching and a symbol show it as well.
 class KeyboardColors
 {
 public:

@@ -21,8 +21,8 @@ struct Place {
 constexpr double width = 22.5;
 constexpr double height = 6.5;
 
-/// The keys row by row, from the left. On a keyboard of shape Iso, @p hasKeyBesideRightShift tells
-/// whether it has that key, as keyboards of Brazil do.
+/// The keys row by row, from the left. On a keyboard of shape Iso, @p hasKeyBesideRightShift is
+/// true if it has that key, as keyboards of Brazil do.
 std::vector<Place> places(KeyboardLayout::Shape shape, bool hasKeyBesideRightShift);
 
 } // namespace KeyboardGeometry

@@ -37,7 +37,7 @@ public:
     /// A layout by the characters of its keys. @p charactersOf is called once for each key that
     /// types a character on some keyboard.
     ///
-    /// The shape is told by the keys that only one of the shapes has: a keyboard whose yen key
+    /// The shape follows from the keys that only one of the shapes has: a keyboard whose yen key
     /// types something is of shape Jis; one whose key beside the left Shift types what no other key
     /// does, of shape Iso; any other, of shape Ansi. (That the key exists says nothing: systems
     /// describe it even for keyboards without it, and then repeat another key.)

@@ -11,7 +11,7 @@ namespace CUI {
 
 class QvelMessageLogPrivate;
 
-/// The one channel through which the library tells the user something.
+/// The one channel through which the library reports to the user.
 ///
 /// The log keeps nothing: a message that passes the level becomes one line and one messageLogged()
 /// signal; whoever wants the lines connects to it. User-interface thread only.

@@ -15,7 +15,7 @@ LanguageWatch::LanguageWatch(std::function<void()> changed) : m_changed(std::mov
 
 bool LanguageWatch::eventFilter(QObject *watched, QEvent *event)
 {
-    // Widgets are told as well, and later.
+    // Widgets get the event as well, and later.
     if (event->type() == QEvent::LanguageChange && watched == QCoreApplication::instance())
         m_changed();
     return QObject::eventFilter(watched, event);

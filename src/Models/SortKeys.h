@@ -117,7 +117,7 @@ private:
     void clear();
 
     const QAbstractItemModel *m_model = nullptr; // null when its cells are not kept
-    const void *m_topLevel = nullptr; // what tells indexes of the top level from those of others
+    const void *m_topLevel = nullptr; // the internal pointer of the indexes of the top level
     std::unique_ptr<QObject> m_receiver;
     std::vector<Column> m_columns;
     TextOrder m_order; // of the places

@@ -10,9 +10,9 @@
 
 namespace CUI {
 
-/// Tells the library where the host keeps its files, and which of them are in use.
+/// Where the host keeps its files, and which of them are in use.
 ///
-/// The host implements it and installs one instance with set(). The library asks it anew at each
+/// The host implements it and installs one instance with set(). The library asks it at each
 /// use and keeps no pointer; a QvelFileMessageLogger keeps the path of its file. Paths are
 /// absolute; directories carry no trailing separator. An empty text means that the host has no such
 /// file or directory.

@@ -17,7 +17,7 @@ bool isReadOnly(const QString &path);
 /// Sets that attribute and keeps all others. False when the system refuses.
 bool setReadOnly(const QString &path);
 
-/// Tells one state of a file's contents from another without reading them.
+/// Identifies the state of a file's contents without reading them.
 struct Stamp {
     quint64 volume = 0;
     quint64 file = 0;

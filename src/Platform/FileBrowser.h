@@ -10,7 +10,7 @@ namespace FileBrowser {
 /// Shows the folder of @p path with the file itself selected, where the desktop can do that.
 ///
 /// Returns at once, before anything is shown. @p path names a file that exists; separators are
-/// slashes. A desktop without a file browser shows nothing, and nobody is told.
+/// slashes. Without a file browser on the desktop nothing is shown and no error is reported.
 void showFile(const QString &path);
 
 } // namespace FileBrowser

@@ -38,7 +38,7 @@ public:
     XServer() = default;
 
     /// The map of the keyboard as it is now; null without a server that knows the extension. Read
-    /// anew each time: a person presses keys slowly, and what was kept would have to be watched.
+    /// at each call: people press keys slowly, and a cached map would have to be kept up to date.
     Owned<xkb_keymap> keymap()
     {
         const std::int32_t device = keyboard();
@@ -166,7 +166,7 @@ XServer &xServer()
     return server;
 }
 
-/// The layout that was active when the key was pressed; null where no X server tells it.
+/// The layout that was active when the key was pressed; null without an X server.
 Owned<xkb_state> layoutAt(const QKeyEvent &event)
 {
     if (QGuiApplication::platformName() != QLatin1String("xcb"))

@@ -8,7 +8,7 @@ namespace CUI {
 class QvelShortcutManager;
 class VelAction;
 
-/// Tells which actions an ActionFilter chooses.
+/// Decides which actions an ActionFilter accepts.
 class ActionMatcher
 {
 public:

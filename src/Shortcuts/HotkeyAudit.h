@@ -25,7 +25,7 @@ class QvelShortcutManager;
 class CUI_CORE_EXPORT HotkeyAudit
 {
 public:
-    /// What an audit has to be told.
+    /// What an audit cannot find out by itself.
     struct Options {
         /// The contexts whose hotkeys count wherever the focus is. They give way to the context of
         /// the part that has the focus, as they do in QvelActionBinder. Ids that are not

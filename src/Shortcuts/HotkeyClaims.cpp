@@ -36,7 +36,7 @@ std::vector<ActionIdentifier> HotkeyClaims::remove(const ActionIdentifier &ident
     for (const auto &[isOther, key] : claim->second.keys) {
         const auto place = m_claimants.find({claim->second.context, key});
         if (place == m_claimants.end())
-            continue; // named twice, and gone with the first
+            continue; // named twice, and removed with the first
         std::set<Claimant> &claimants = place->second;
         const bool held = claimants.begin()->second == removed;
         claimants.erase({isOther, removed});

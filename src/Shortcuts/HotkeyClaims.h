@@ -22,7 +22,7 @@ namespace CUI {
 /// smallest identifier may use it, which is the one that the store would find.
 ///
 /// Whoever claims Enter claims Return as well, the other key of that name, which the hotkey editor
-/// records as Enter; an action that claims Return itself goes before.
+/// records as Enter; an action that claims Return itself has precedence.
 class CUI_CORE_EXPORT HotkeyClaims
 {
 public:

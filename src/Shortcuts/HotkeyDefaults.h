@@ -22,7 +22,7 @@ public:
     /// What to do with a default hotkey that an action outside the plan holds now.
     enum class Held {
         Take, ///< take it from that action
-        Leave, ///< leave it there; the reset action goes without it
+        Leave, ///< leave it there; the reset action does not get it
     };
 
     /// A default hotkey that an action outside the plan holds.

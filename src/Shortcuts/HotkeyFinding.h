@@ -11,8 +11,8 @@
 
 namespace CUI {
 
-/// Something that HotkeyAudit found. A value: it names actions and contexts of the time when it was
-/// made, which may have gone since.
+/// Something that HotkeyAudit found. A value: it names actions and contexts that were
+/// registered when it was created, and may not be any more.
 struct CUI_CORE_EXPORT HotkeyFinding {
     /// What was found, the worst first.
     enum class Kind {

@@ -24,9 +24,9 @@ namespace CUI {
 /// - **Who gets a hotkey of a context** is the last action of the context, as the installed
 ///   ICuiActionManager knows it, that the set assigns the hotkey to, letter case ignored. If the
 ///   first level leaves assignments to several actions of a context, a hotkey whose owner only one
-///   side changed goes to that side's owner, and the other assignments are dropped. A hotkey that
-///   the two sides gave to two different actions is a clash. Actions that the registry does not
-///   know share no context with others.
+///   side changed is given to that side's owner, and the other assignments are dropped. A hotkey
+///   that the two sides gave to two different actions is a clash. Actions that the registry does
+///   not know share no context with others.
 ///
 /// A hotkey that moves from one action to another therefore changes the second action and the
 /// owner of the hotkey, not the first action.

@@ -34,9 +34,10 @@ public:
         /// An assignment to an action that holds six hotkeys.
         IsRefused,
         /// An assignment that takes the hotkey from an action of the same context that has it in
-        /// the base configuration, without the user having known, as far as that can be told: a set
-        /// does not say on which base it was made. A base that has given the hotkey to that action
-        /// since is assumed unless the set has a step, anywhere, for that action and hotkey (letter
+        /// the base configuration, probably unknown to the user. A set does not say on which base
+        /// it
+        /// was made: a base that has given the hotkey to that action since is assumed unless the
+        /// set has a step, anywhere, for that action and hotkey (letter
         /// case ignored). HotkeyEdits records one whenever it takes a hotkey from an action; sets
         /// that were made otherwise may lack it.
         TakesNewBaseHotkey,

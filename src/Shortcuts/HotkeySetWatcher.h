@@ -16,7 +16,7 @@ class QvelShortcutManager;
 /// store without unsaved edits follow what other programs write to it.
 ///
 /// A file is judged by its contents alone. Replacing it by another one, writing into it, doing so
-/// behind a link, changing the link, deleting the file or the folder it lies in, and bringing it
+/// behind a link, changing the link, deleting the file or its folder, and bringing it
 /// back are noticed within a second, as far as the file system reports changes; that the store
 /// saved it, or that something else wrote what is there already, is not. A file that cannot be
 /// loaded, such as one that is only half written, changes nothing; it is looked at again when it

@@ -10,7 +10,7 @@ namespace CUI::NearbyKeys {
 
 namespace {
 
-/// A key, and where it lies in widths of a key.
+/// A key, and its place in widths of a key.
 struct Place {
     int key;
     double x;

@@ -43,7 +43,7 @@ public:
 
     /// True when actions of several contexts are equally near.
     bool isUnclear() const { return m_isUnclear; }
-    /// The chosen one; the empty identifier when none is in reach or it cannot be told.
+    /// The chosen one; the empty identifier when none is in reach or several are equally near.
     ActionIdentifier action() const { return m_isUnclear ? ActionIdentifier() : m_action; }
 
 private:

@@ -113,7 +113,7 @@ void QvelShortcutManager::assignShortcut(const ActionIdentifier &identifier,
     const ChangeScope scope(this, HotkeyChange::Kind::Edit);
     transformations->append(step);
     noteStep(step);
-    // The step's copies: the caller's may lie inside the very map entry that is about to change.
+    // The step's copies: the caller's may be references into the map entry that is about to change.
     assignShortcutInternal(step.actionId(), step.shortcut(), true, false);
     checkModifiedAndEmit();
     Q_EMIT shortcutTransformAdded(step);
@@ -129,7 +129,7 @@ void QvelShortcutManager::unassignShortcut(const ActionIdentifier &identifier,
     const ChangeScope scope(this, HotkeyChange::Kind::Edit);
     transformations->append(step);
     noteStep(step);
-    // The step's copies: the caller's may lie inside the very map entry that is about to change.
+    // The step's copies: the caller's may be references into the map entry that is about to change.
     unassignShortcutInternal(step.actionId(), step.shortcut(), true);
     checkModifiedAndEmit();
     Q_EMIT shortcutTransformAdded(step);

@@ -224,10 +224,10 @@ public:
     static bool convertLegacyShortcuts(const QString &in, const QString &out);
 
     /// Builds the whole configuration: the host's base files in their order, the registry's default
-    /// accelerators, and the hotkey set @p path (may be empty) on top; tells the path manager that
-    /// @p path is the current set. A base file of suffix hsxb replaces what came before it, one of
-    /// suffix hsx is added to it; others are ignored. A file that fails contributes what it would
-    /// contribute to the single load.
+    /// accelerators, and the hotkey set @p path (may be empty) on top, and makes @p path the
+    /// current set of the path manager. A base file of suffix hsxb replaces what came before it,
+    /// one of suffix hsx is added to it; others are ignored. A file that fails contributes what it
+    /// would contribute to the single load.
     ///
     /// Emits shortcutConfigurationAboutToLoad(), the signals of each of these steps, and
     /// shortcutConfigurationLoaded().

@@ -34,8 +34,8 @@ public:
     explicit QvelConflictsWidget(QvelShortcutManager *manager, QWidget *parent = nullptr);
     ~QvelConflictsWidget() override;
 
-    /// What the audit is told: which contexts count everywhere, and whose reservations count. At
-    /// first those of HotkeyAudit::Options, with the keys that typeableKeys() answers and the
+    /// The options of the audit: which contexts count everywhere, and whose reservations count.
+    /// Initially those of HotkeyAudit::Options, with the keys that typeableKeys() answers and the
     /// systems of HotkeyReservation::systemsHere().
     void setAuditOptions(const HotkeyAudit::Options &options);
     /// The options that were last set.

@@ -71,7 +71,7 @@ void QvelMessageLogWidget::append(const QString &line)
 
 void QvelMessageLogWidget::contextMenuEvent(QContextMenuEvent *event)
 {
-    // The menu goes with the widget, should that be deleted while the menu is open.
+    // The widget deletes the menu if it is itself deleted while the menu is open.
     const QPointer<QMenu> menu = new QMenu(this);
     QAction *copyAction =
             menu->addAction(tr("Copy"), this, &QTextEdit::copy, QKeySequence(QKeySequence::Copy));

@@ -62,7 +62,7 @@ void SettlementPanel::setFinding(const HotkeyFinding *finding, const HotkeyAudit
     if (QWidget *old = takeWidget())
         old->deleteLater(); // one of its buttons may have been clicked
     setWidget(contents);
-    contents->setAutoFillBackground(false); // the panel looks like what it lies on
+    contents->setAutoFillBackground(false); // the panel has the background of its parent
 }
 
 void SettlementPanel::addRow(QGridLayout *grid, const Settlements::Row &row,

@@ -18,7 +18,7 @@ namespace HotkeyCtl {
 
 namespace {
 
-/// Where the set goes; nothing, after telling why, when there is no such place.
+/// The path of the new set; nothing, after reporting why, if there is none.
 std::optional<QString> targetOf(const QStringList &arguments, const Session &session)
 {
     if (arguments.size() > 1)

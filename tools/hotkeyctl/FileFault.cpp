@@ -20,7 +20,7 @@ QString faultOf(const QString &path, const Validation &validate, const Session &
         return QStringLiteral("cannot be opened: %1").arg(file.errorString());
     if (session.log().errorCount() == errorsBefore)
         return QStringLiteral("cannot be validated");
-    // The log's last line tells the fault and its place; the ones before it name the files.
+    // The log's last line has the fault and its place; the ones before it name the files.
     return QStringLiteral("not valid: %1")
             .arg(session.log().lastError().section(QLatin1Char('\n'), -1));
 }

@@ -68,7 +68,7 @@ QString reasonAgainstReplacingBase(const QString &path, const QString &presetDir
 QString writeWhole(const QString &path, const QByteArray &contents)
 {
     QSaveFile file(path);
-    // Only flushing tells whether the last bytes could be written.
+    // Only flushing shows whether the last bytes could be written.
     if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush()
         && file.commit())
         return {};

@@ -90,7 +90,7 @@ bool Session::loadBaseFiles()
         }
     }
     const int errorsBefore = m_log.errorCount();
-    // The current set is loaded apart, because only loading a set alone tells whether it worked.
+    // The current set is loaded separately: only then is it known whether that succeeded.
     const QString currentSet = paths().getCurrentConfigurationFile(CUI::ConfigType::HotkeySet);
     m_store.loadShortcutConfiguration(QString());
     paths().setCurrentConfigurationFile(CUI::ConfigType::HotkeySet, currentSet);

@@ -51,28 +51,28 @@ public:
     const LogPrinter &log() const { return m_log; }
     LogPrinter &log() { return m_log; }
 
-    /// Tells about a problem with the data, for the command to return.
+    /// Reports a problem with the data. Returns what the command has to return.
     ExitCode problem(const QString &text) const;
-    /// Tells what is wrong with the command line, for the command to return.
+    /// Reports what is wrong with the command line. Returns what the command has to return.
     ExitCode wrongUsage(const QString &text) const;
 
-    /// Opens the host and loads nothing; false, after telling why, when it is not usable.
+    /// Opens the host and loads nothing; false, after reporting why, if it is not usable.
     bool open(Host::HostPathManager::Record record = Host::HostPathManager::Record::InMemory);
     /// Uninstalls what open() has installed.
     void close();
-    /// Opens the host, loads its base and the set. Tells what went wrong. A set that the command
+    /// Opens the host, loads its base and the set. Reports what went wrong. A set that the command
     /// line names must load; without the current one there is still the base.
     Loading load();
-    /// Opens the host and loads its base alone; false, after telling why, when any of it failed.
+    /// Opens the host and loads its base alone; false, after reporting why, if any of it failed.
     bool loadBase();
-    /// Puts the set @p path on top of the loaded base, in the place of one that is there. False,
-    /// after telling why, when it cannot be loaded.
+    /// Puts the set @p path on top of the loaded base, in place of the loaded one. False,
+    /// after reporting why, if it cannot be loaded.
     bool loadSet(const QString &path);
     /// \name After load(), loadBase() or open()
     /// @{
     const Host::HostCatalogue &catalogue() const;
     Host::HostPathManager &paths() const;
-    /// Where the host's own sets lie.
+    /// The directory of the host's own sets.
     QString presetDirectory() const;
     CUI::QvelShortcutManager &store() { return m_store; }
     /// The action's hotkeys in effect.

@@ -16,7 +16,7 @@ namespace {
 const QString save = QStringLiteral("save");
 const QString force = QStringLiteral("force");
 
-/// What is wrong with the target, told; Done when nothing is.
+/// Reports what is wrong with the target; Done if nothing is.
 ExitCode checkTarget(const Session &session, const QString &path)
 {
     const QString reason = reasonAgainstReplacingSet(path, session.presetDirectory());

@@ -11,7 +11,7 @@ namespace HotkeyCtl {
 /// is saved as a new set or only shown.
 namespace SetEditing {
 
-/// The text of what an edit did, or nothing when it told a problem instead.
+/// The text of what an edit did, or nothing after it has reported a problem.
 using Report = std::optional<QString>;
 using Edit = std::function<Report(Session &session, const Host::HostCatalogue::Action &action,
                                   const QString &shortcut)>;
@@ -25,7 +25,7 @@ enum class Accepts {
 /// Loads everything, makes the edit, saves and reports; the arguments are ID SHORTCUT.
 ExitCode run(const QCommandLineParser &line, Session &session, Accepts accepts, const Edit &edit);
 
-/// Saves the set as --save asks for, if it does, and prints @p report and what was done. Tells
+/// Saves the set as --save asks for, if it does, and prints @p report and what was done. Reports
 /// what went wrong.
 ExitCode finish(const QCommandLineParser &line, Session &session, const QString &report);
 
@@ -33,7 +33,7 @@ ExitCode finish(const QCommandLineParser &line, Session &session, const QString 
 QList<QCommandLineOption> options();
 
 /// Saves the set as --save asks for. Without --force, a set that has changed since it was loaded is
-/// not replaced. Tells what went wrong.
+/// not replaced. Reports what went wrong.
 ExitCode saveSet(const QCommandLineParser &line, Session &session, const QString &path);
 
 /// The hotkey of the list that equals @p shortcut without regard to letter case; null when none.

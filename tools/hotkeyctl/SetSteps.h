@@ -9,7 +9,7 @@ namespace HotkeyCtl {
 
 class Session;
 
-/// All steps of the hotkey set file @p path. Nothing, after the log has told why, when it cannot be
+/// All steps of the hotkey set file @p path. Nothing, after the reason is logged, if it cannot be
 /// loaded.
 std::optional<std::vector<CUI::ShortcutTransformation>> readSteps(const QString &path);
 
