@@ -2,6 +2,11 @@
 
 #include <VelUtil.h>
 
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
 // Outside of any namespace, since the name of the resource is declared where it is used.
 static QString translationDirectory()
 {
@@ -15,6 +20,14 @@ void installTranslations()
 {
     static const VelSDK::QvelTranslationLoader translations(translationDirectory(),
                                                             QStringLiteral("UiCustomizations"));
+}
+
+void installToolkitTranslations(const QLocale &locale)
+{
+    static QTranslator translator;
+    if (translator.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
+                        QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&translator);
 }
 
 } // namespace Host

@@ -12,10 +12,8 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTextStream>
-#include <QTranslator>
 
 #include <cstdio>
 
@@ -69,15 +67,6 @@ int fail(const QString &reason)
     return 1;
 }
 
-/// The texts of the toolkit's own dialogs and buttons, where they are installed.
-void installToolkitTranslations(const QLocale &locale)
-{
-    static QTranslator translator;
-    if (translator.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
-                        QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&translator);
-}
-
 int runTour(const Options &options)
 {
     if (options.legacyFile.isEmpty())
@@ -124,7 +113,7 @@ int main(int argc, char **argv)
     const QString locale = isEnglish ? QStringLiteral("en") : options.locale;
     // Buttons in a language that nothing else is in would only confuse.
     if (VelSDK::QvelTranslationLoader::setLocale(locale))
-        installToolkitTranslations(locale.isEmpty() ? QLocale::system() : QLocale(locale));
+        Host::installToolkitTranslations(locale.isEmpty() ? QLocale::system() : QLocale(locale));
     Studio::Appearance::apply(options.dark);
     if (!options.screenshots.isEmpty()) {
         QString error;

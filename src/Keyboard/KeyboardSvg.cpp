@@ -92,7 +92,11 @@ QString systemColorRules()
     css += rule(selectorOf("cui-held"), "fill", paper)
            + rule(selectorOf("cui-held"), "stroke-width", QStringLiteral("8"));
     css += rule(selectorOf("cui-strong"), "fill", ink) + rule(selectorOf("cui-dim"), "fill", ink);
-    return css;
+    // The lines are as strong as the labels on them, which get a margin.
+    return css
+           + QStringLiteral(".cui-keyboard .cui-lines{stroke-opacity:.6}"
+                            ".cui-keyboard .cui-strong,.cui-keyboard .cui-dim"
+                            "{stroke:Canvas;stroke-width:10;paint-order:stroke}");
 }
 
 QString pathData(const QPainterPath &path)

@@ -1,11 +1,13 @@
 #include "Commands.h"
 
+#include "HostTranslations.h"
 #include "KeyboardOptions.h"
 #include "OutputFile.h"
 #include "Session.h"
 
 #include <QCommandLineParser>
 #include <QKeySequence>
+#include <QLocale>
 #include <QTextStream>
 
 namespace HotkeyCtl {
@@ -61,6 +63,7 @@ ExitCode run(const QCommandLineParser &line, Session &session)
     const auto contexts = chosenContexts(line.values(QStringLiteral("context")), session);
     if (!contexts)
         return ExitCode::Problem;
+    Host::installToolkitTranslations(QLocale::system());
     CUI::HotkeyKeyboard keyboard = keyboardOf(*layout, session);
     keyboard.setContexts(*contexts);
     keyboard.setModifiers(*modifiers);

@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "HostTranslations.h"
 #include "KeyboardOptions.h"
 #include "OutputFile.h"
 #include "Session.h"
@@ -8,6 +9,7 @@
 #include <UiCustomizations/HotkeySheet.h>
 
 #include <QCommandLineParser>
+#include <QLocale>
 #include <QTextStream>
 
 namespace HotkeyCtl {
@@ -96,6 +98,7 @@ ExitCode run(const QCommandLineParser &line, Session &session)
     if (!filter)
         return ExitCode::Problem;
 
+    Host::installToolkitTranslations(QLocale::system()); // it is for users of that language
     CUI::HotkeySheet sheet(session.store(), *filter);
     if (line.isSet(title))
         sheet.setTitle(line.value(title));
