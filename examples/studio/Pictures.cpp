@@ -5,6 +5,7 @@
 #include "EditorHands.h"
 #include "Gestures.h"
 #include "MainWindow.h"
+#include "SheetMenu.h"
 #include "StudioSession.h"
 #include "Viewport.h"
 
@@ -15,13 +16,16 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QGraphicsView>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPrintPreviewWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTreeView>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 namespace Studio::Pictures {
@@ -92,9 +96,36 @@ QPixmap pictureOfPalette(MainWindow &window)
     return picture;
 }
 
-/// Without @p show, it is the palette.
-bool writeOne(const QString &hostDirectory, bool dark, Show show, const QString &file,
-              QString &error)
+/// The print preview with the last page of the list beside the first one of the keyboard.
+QPixmap pictureOfSheet(MainWindow &window)
+{
+    CustomizeDialog *dialog = window.showCustomizeDialog();
+    auto *menu = dialog->findChild<SheetMenu *>();
+    menu->setWithKeyboard(true);
+    menu->showPrintPreview();
+    auto *pages = dialog->findChild<QPrintPreviewWidget *>();
+    QWidget *preview = pages->window();
+    preview->resize(pictureSize.width(), pictureSize.width() * 11 / 15);
+    pages->setViewMode(QPrintPreviewWidget::FacingPagesView);
+    Gestures::wait(300);
+    pages->setCurrentPage(pages->pageCount() - 1);
+    pages->fitInView();
+    Gestures::wait(300);
+    QPixmap picture = pages->findChild<QGraphicsView *>()->viewport()->grab();
+    preview->close();
+    dialog->close();
+    return picture;
+}
+
+using Picture = std::function<QPixmap(MainWindow &)>;
+
+Picture ofDialog(Show show)
+{
+    return [show](MainWindow &window) { return pictureOfDialog(window, show); };
+}
+
+bool writeOne(const QString &hostDirectory, bool dark, const Picture &pictureOf,
+              const QString &file, QString &error)
 {
     Appearance::apply(dark);
     const QTemporaryDir user;
@@ -104,8 +135,7 @@ bool writeOne(const QString &hostDirectory, bool dark, Show show, const QString 
         return false;
     }
     session.window().show();
-    const QPixmap picture = show != nullptr ? pictureOfDialog(session.window(), show)
-                                            : pictureOfPalette(session.window());
+    const QPixmap picture = pictureOf(session.window());
     Gestures::wait();
     if (picture.save(file))
         return true;
@@ -125,18 +155,19 @@ bool write(const QString &hostDirectory, const QString &folder, QString &error)
     const struct {
         const char *name;
         bool dark;
-        Show show;
+        Picture pictureOf;
     } pictures[] = {
-            {"editor-light.png", false, showEditor},
-            {"editor-dark.png", true, showEditor},
-            {"conflicts-light.png", false, showConflicts},
-            {"conflicts-dark.png", true, showConflicts},
-            {"keyboard.png", false, showKeyboard},
-            {"palette-light.png", false, nullptr},
-            {"palette-dark.png", true, nullptr},
+            {"editor-light.png", false, ofDialog(showEditor)},
+            {"editor-dark.png", true, ofDialog(showEditor)},
+            {"conflicts-light.png", false, ofDialog(showConflicts)},
+            {"conflicts-dark.png", true, ofDialog(showConflicts)},
+            {"keyboard.png", false, ofDialog(showKeyboard)},
+            {"palette-light.png", false, pictureOfPalette},
+            {"palette-dark.png", true, pictureOfPalette},
+            {"sheet.png", false, pictureOfSheet},
     };
     return std::all_of(std::begin(pictures), std::end(pictures), [&](const auto &picture) {
-        return writeOne(hostDirectory, picture.dark, picture.show,
+        return writeOne(hostDirectory, picture.dark, picture.pictureOf,
                         directory.filePath(QLatin1String(picture.name)), error);
     });
 }

@@ -44,6 +44,11 @@ CUI::HotkeySheet SheetMenu::sheet() const
     return sheet;
 }
 
+void SheetMenu::setWithKeyboard(bool isWith)
+{
+    m_withKeyboard->setChecked(isWith);
+}
+
 void SheetMenu::showPrintPreview()
 {
     auto *preview = new QPrintPreviewDialog(window());

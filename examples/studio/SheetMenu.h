@@ -22,6 +22,7 @@ public:
     SheetMenu(CUI::QvelShortcutManager *manager, CUI::QvelShortcutsWidget *editor,
               CUI::QvelKeyboardWidget *keyboard, QWidget *parent = nullptr);
 
+    void setWithKeyboard(bool isWith);
     void showPrintPreview();
     void exportSheet();
 

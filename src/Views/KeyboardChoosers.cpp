@@ -103,6 +103,7 @@ void KeyboardChoosers::buildShapes()
     m_shapes->addItem(QStringLiteral("ISO"), static_cast<int>(Shape::Iso));
     m_shapes->addItem(QStringLiteral("JIS"), static_cast<int>(Shape::Jis));
     m_shapes->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_shapes->setMinimumWidth(m_shapes->fontMetrics().averageCharWidth() * 12); // narrow windows
     connect(m_shapes, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &KeyboardChoosers::shapeChosen);
     layout()->addWidget(m_shapes);
