@@ -46,7 +46,7 @@ QWidget *makeMenusView(CUI::QvelActionItemModel *model)
 } // namespace
 
 CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeySetWatcher &watcher,
-                                 QWidget *parent)
+                                 CUI::QvelHotkeyHistory &history, QWidget *parent)
     : QDialog(parent),
       m_manager(manager),
       m_model(new CUI::QvelActionItemModel(&manager, this)),
@@ -67,12 +67,10 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     // Sorting the list of actions sorts its model, which the hotkeys' rows would follow.
     m_tabs->addTab(makeMenusView(m_menuModel), tr("&Menus"));
     m_tabs->addTab(m_log, tr("&Log"));
-    auto *history = new CUI::QvelHotkeyHistory(&manager, this);
-    auto *historyView = new QUndoView(history);
+    auto *historyView = new QUndoView(&history);
     historyView->setEmptyLabel(tr("Before the first edit"));
     m_tabs->addTab(historyView, tr("H&istory"));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    new HistoryButtons(*history, buttons, this);
     QPushButton *sheet = buttons->addButton(tr("&Sheet"), QDialogButtonBox::ActionRole);
     sheet->setMenu(new SheetMenu(&manager, m_editor, m_keyboard, sheet));
     sheet->setAutoDefault(false);
@@ -83,6 +81,7 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
             &CUI::QvelShortcutsWidget::resetSelectedActionFields);
     layout->addWidget(m_tabs);
     layout->addWidget(buttons);
+    new HistoryButtons(history, buttons, this); // follows the texts in the dialog
     m_editor->setPresetComboBoxItemIcon(Icons::make(QStringLiteral("lock")));
     // The default red and green are made for light backgrounds.
     if (palette().color(QPalette::Base).lightness() < 128) {

@@ -10,6 +10,7 @@ namespace CUI {
 class HotkeySetWatcher;
 class QvelActionItemModel;
 class QvelConflictsWidget;
+class QvelHotkeyHistory;
 class QvelKeyboardWidget;
 class QvelMessageLogWidget;
 class QvelShortcutManager;
@@ -25,9 +26,10 @@ class CustomizeDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// Owns neither @p manager nor @p watcher, the one of the manager's file; both must outlive it.
+    /// Owns neither @p manager nor @p watcher and @p history, which are those of the manager; all
+    /// must outlive it.
     CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeySetWatcher &watcher,
-                    QWidget *parent);
+                    CUI::QvelHotkeyHistory &history, QWidget *parent);
 
     CUI::QvelShortcutsWidget *editor() const { return m_editor; }
     QTabWidget *tabs() const { return m_tabs; }

@@ -10,15 +10,18 @@ class QWidget;
 namespace Studio {
 
 /// The Undo and Redo buttons of a dialog, with the name of the command in their tool tips, and the
-/// keys for them. A field that takes these keys itself keeps them.
+/// keys for them. A text keeps the keys while it has something to undo or redo itself, and a field
+/// of a hotkey takes them as one.
 class HistoryButtons : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Adds the buttons to @p box. The keys work in the window of @p box. Owns neither argument;
-    /// @p history must outlive the object.
+    /// Adds the buttons to @p box. The keys work in @p window, in the texts that it has now. Owns
+    /// no argument; @p history must outlive the object.
     HistoryButtons(QUndoStack &history, QDialogButtonBox *box, QWidget *window);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void update();

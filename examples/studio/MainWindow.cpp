@@ -15,6 +15,7 @@
 #include <UiCustomizations/QvelActionBinder.h>
 #include <UiCustomizations/QvelActionItemModel.h>
 #include <UiCustomizations/QvelCommandPalette.h>
+#include <UiCustomizations/QvelHotkeyHistory.h>
 #include <UiCustomizations/QvelMessageLogWidget.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
@@ -32,6 +33,7 @@ MainWindow::MainWindow(Host::SampleHost &host, CUI::QvelShortcutManager &store, 
       m_host(host),
       m_store(store),
       m_watcher(new CUI::HotkeySetWatcher(&store, this)),
+      m_hotkeyHistory(new CUI::QvelHotkeyHistory(&store, this)),
       m_document(new Document(this)),
       m_view(new ViewState(this)),
       m_binder(new CUI::QvelActionBinder(&store, this)),
@@ -152,7 +154,7 @@ void MainWindow::setMode(const QString &name)
 CustomizeDialog *MainWindow::showCustomizeDialog()
 {
     if (m_dialog == nullptr) {
-        m_dialog = new CustomizeDialog(m_store, *m_watcher, this);
+        m_dialog = new CustomizeDialog(m_store, *m_watcher, *m_hotkeyHistory, this);
         m_dialog->setAuditOptions(m_host.catalogue().auditOptions());
         m_dialog->setLoggedText(m_console->toPlainText());
     }

@@ -21,6 +21,7 @@ class SampleHost;
 namespace CUI {
 class HotkeySetWatcher;
 class QvelActionBinder;
+class QvelHotkeyHistory;
 class QvelCommandPalette;
 class QvelMessageLogWidget;
 class QvelShortcutManager;
@@ -115,6 +116,7 @@ private:
     CUI::QvelShortcutManager &m_store;
     ActionTable m_table;
     CUI::HotkeySetWatcher *m_watcher;
+    CUI::QvelHotkeyHistory *m_hotkeyHistory;
     Document *m_document;
     ViewState *m_view;
     CUI::QvelActionBinder *m_binder;

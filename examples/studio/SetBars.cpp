@@ -4,6 +4,7 @@
 #include "MessageBar.h"
 #include "ReportDialog.h"
 
+#include <UiCustomizations/HotkeyEditGroup.h>
 #include <UiCustomizations/HotkeySetWatcher.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
@@ -85,7 +86,10 @@ void SetBars::showDetails()
     delete dialog.data();
     if (!isAccepted || !report.hasRemedies())
         return;
-    m_store.replaceTransforms(report.steps());
+    {
+        const CUI::HotkeyEditGroup command(&m_store, tr("Repair the set"));
+        m_store.replaceTransforms(report.steps());
+    }
     Q_EMIT stepsReplaced();
     followSteps();
 }

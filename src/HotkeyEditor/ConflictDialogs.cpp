@@ -4,6 +4,8 @@
 #include "KeyNames.h"
 #include "QShortcutsList.h"
 
+#include <QAbstractButton>
+#include <QMap>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -11,16 +13,35 @@ namespace CUI::ConflictDialogs {
 
 namespace {
 
-/// The button that was clicked; NoButton when the box was destroyed.
+/// The button that was clicked; NoButton when the box was destroyed. @p texts replaces the texts of
+/// buttons.
 int ask(QWidget *window, QMessageBox::Icon icon, const QString &title, const QString &text,
-        QMessageBox::StandardButtons buttons)
+        QMessageBox::StandardButtons buttons,
+        const QMap<QMessageBox::StandardButton, QString> &texts = {})
 {
     const QPointer<QMessageBox> box = new QMessageBox(icon, title, text, buttons, window);
     box->setTextFormat(Qt::PlainText);
+    for (auto entry = texts.begin(); entry != texts.end(); ++entry)
+        box->button(entry.key())->setText(entry.value());
     const int button = box->exec();
     const bool isAlive = box != nullptr;
     delete box.data();
     return isAlive ? button : QMessageBox::NoButton;
+}
+
+/// The first of the lines, so that a box stays on the screen.
+QString shortened(const QStringList &lines)
+{
+    constexpr int mostLines = 10;
+    QStringList shown = lines.mid(0, mostLines);
+    if (shown.size() < lines.size())
+        shown.append(QStringLiteral("…"));
+    return shown.join(QLatin1Char('\n'));
+}
+
+QString nativeText(const QString &hotkey)
+{
+    return KeyNames::keyOf(hotkey).toString(QKeySequence::NativeText);
 }
 
 } // namespace
@@ -38,18 +59,38 @@ void reportFullList(QWidget *window)
 
 bool confirmReassignment(QWidget *window, const QString &hotkey, const QStringList &actionNames)
 {
-    constexpr int mostNames = 10;
-    QStringList names = actionNames.mid(0, mostNames);
-    if (names.size() < actionNames.size())
-        names.append(QStringLiteral("…"));
     const QString question = editorText(QT_TRANSLATE_NOOP(
             "QvelShortcutsWidget", "%1 is already assigned to:\n\n%2\n\nReassign it?"));
     return ask(window, QMessageBox::Question,
                editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Reassign Hotkey")),
-               question.arg(KeyNames::keyOf(hotkey).toString(QKeySequence::NativeText),
-                            names.join(QLatin1Char('\n'))),
+               question.arg(nativeText(hotkey), shortened(actionNames)),
                QMessageBox::Yes | QMessageBox::Cancel)
            == QMessageBox::Yes;
+}
+
+std::optional<HotkeyDefaults::Held> askAboutHeldDefaults(QWidget *window,
+                                                         const QStringList &holders)
+{
+    const QString question = editorText(
+            QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Other actions have these default hotkeys "
+                                                     "now:\n\n%1\n\nTake them back?"));
+    const int button = ask(
+            window, QMessageBox::Question,
+            editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Reset to Default")),
+            question.arg(shortened(holders)),
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+            {{QMessageBox::Yes, editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Take Back"))},
+             {QMessageBox::No, editorText(QT_TRANSLATE_NOOP("QvelShortcutsWidget", "Leave"))}});
+    if (button == QMessageBox::Yes)
+        return HotkeyDefaults::Held::Take;
+    if (button == QMessageBox::No)
+        return HotkeyDefaults::Held::Leave;
+    return std::nullopt;
+}
+
+QString holderLine(const QString &hotkey, const QString &actionName)
+{
+    return QStringLiteral("%1: %2").arg(nativeText(hotkey), actionName);
 }
 
 } // namespace CUI::ConflictDialogs

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "HotkeyDefaults.h"
+
 #include <QStringList>
+
+#include <optional>
 
 class QWidget;
 
@@ -14,6 +18,12 @@ namespace ConflictDialogs {
 void reportFullList(QWidget *window);
 /// True when the user wants the hotkey, in portable form, taken from the actions that have it.
 bool confirmReassignment(QWidget *window, const QString &hotkey, const QStringList &actionNames);
+/// What is to become of the default hotkeys of a reset that other actions hold; nothing when the
+/// user cancels. @p holders has a line for each such hotkey.
+std::optional<HotkeyDefaults::Held> askAboutHeldDefaults(QWidget *window,
+                                                         const QStringList &holders);
+/// Such a line, for a hotkey in portable form.
+QString holderLine(const QString &hotkey, const QString &actionName);
 
 } // namespace ConflictDialogs
 } // namespace CUI

@@ -18,6 +18,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyle>
@@ -81,6 +82,7 @@ void QvelShortcutsWidget::Private::build()
     setUpTree();
     panel = new ActionSelectionPanel(form, model, manager, proxy, delegate, q);
     search = new ActionSearch(form, proxy, q);
+    rowMenu = new ActionRowMenu(form.keyActionsTreeView, model, proxy, manager, search, q);
     currentSet = new CurrentSet(form.hotkeySetComboBox, manager, q);
     commands = new HotkeySetCommands(q, currentSet, manager);
     setUpFields();
@@ -146,11 +148,10 @@ void QvelShortcutsWidget::Private::setUpPresetOptionsButton()
 
 void QvelShortcutsWidget::Private::setUpTree()
 {
-    proxy = new QvelSortFilterProxyModel(manager, q);
+    proxy = new ActionTableProxy(model, manager, q);
     proxy->setDynamicSortFilter(false);
     proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
     proxy->setSortCaseSensitivity(Qt::CaseInsensitive);
-    proxy->setSourceModel(model);
     QTreeView *tree = form.keyActionsTreeView;
     tree->setUniformRowHeights(true); // asking each row for its height is slow
     tree->setModel(proxy);
@@ -243,6 +244,7 @@ void QvelShortcutsWidget::Private::connectAll()
     connectLists();
     connectSelection();
     connectStore();
+    connectRows();
     connectCommands();
 }
 
@@ -302,6 +304,18 @@ void QvelShortcutsWidget::Private::connectStore()
     });
 }
 
+// An edit in the editor leaves its row in sight, whatever the filter. Rows follow what replaces
+// hotkeys from elsewhere, undoing, and a reset.
+void QvelShortcutsWidget::Private::connectRows()
+{
+    m_refilter.setSingleShot(true);
+    const auto refilterSoon = [this] { m_refilter.start(0); };
+    connect(&m_refilter, &QTimer::timeout, q, [this] { refilterByHotkeys(); });
+    connect(rowMenu, &ActionRowMenu::resetDone, q, refilterSoon);
+    connect(manager, &QvelShortcutManager::shortcutTransformsCleared, q, refilterSoon);
+    connect(manager, &QvelShortcutManager::shortcutTransformsLoaded, q, refilterSoon);
+}
+
 void QvelShortcutsWidget::Private::connectCommands()
 {
     connect(form.hotkeySetComboBox, qOverload<int>(&QComboBox::currentIndexChanged), commands,
@@ -352,6 +366,17 @@ void QvelShortcutsWidget::Private::filterByContext(int index)
     else
         proxy->setFilterSelectedContext(static_cast<unsigned long>(
                 form.contextComboBox->itemData(index, Qt::UserRole).toULongLong()));
+}
+
+void QvelShortcutsWidget::Private::refilterByHotkeys()
+{
+    const bool isSearched = search->isByHotkeys() && !form.searchLineEdit->text().isEmpty();
+    if (form.hotkeyFilterComboBox->currentIndex() <= 0 && !isSearched)
+        return;
+    QScrollBar *bar = form.keyActionsTreeView->verticalScrollBar();
+    const int place = bar->value();
+    proxy->invalidate();
+    bar->setValue(place);
 }
 
 void QvelShortcutsWidget::Private::keepCurrentActionInView()

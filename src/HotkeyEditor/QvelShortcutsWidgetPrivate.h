@@ -1,8 +1,10 @@
 #pragma once
 
 #include "ActionListTreeItemDelegate.h"
+#include "ActionRowMenu.h"
 #include "ActionSearch.h"
 #include "ActionSelectionPanel.h"
+#include "ActionTableProxy.h"
 #include "CurrentSet.h"
 #include "HotkeyEditorForm.h"
 #include "HotkeySetCommands.h"
@@ -10,10 +12,10 @@
 #include "QvelPresetComboBox.h"
 #include "QvelShortcutManager.h"
 #include "QvelShortcutsWidget.h"
-#include "QvelSortFilterProxyModel.h"
 #include "TransformationListDialog.h"
 
 #include <QList>
+#include <QTimer>
 
 class QAction;
 class QFileSystemWatcher;
@@ -37,11 +39,12 @@ public:
     QvelActionItemModel *model;
     QvelShortcutManager *manager;
     HotkeyEditorForm form;
-    QvelSortFilterProxyModel *proxy = nullptr;
+    ActionTableProxy *proxy = nullptr;
     QFileSystemWatcher *watcher = nullptr;
     ActionListTreeItemDelegate *delegate = nullptr;
     ActionSelectionPanel *panel = nullptr;
     ActionSearch *search = nullptr;
+    ActionRowMenu *rowMenu = nullptr;
     CurrentSet *currentSet = nullptr;
     HotkeySetCommands *commands = nullptr;
     TransformationListDialog *transformationDialog = nullptr;
@@ -61,13 +64,16 @@ private:
     void connectLists();
     void connectSelection();
     void connectStore();
+    void connectRows();
     void connectCommands();
     void filterByHotkeyState(int index);
     void filterByContext(int index);
+    void refilterByHotkeys();
     void keepCurrentActionInView();
 
     QList<QAction *> m_optionActions;
     QList<int> m_savedColumnWidths;
+    QTimer m_refilter; // once for however many signals
 };
 
 } // namespace CUI

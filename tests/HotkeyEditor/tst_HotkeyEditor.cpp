@@ -1,8 +1,11 @@
 #include "EditorHarness.h"
 
+#include <UiCustomizations/HotkeySetWatcher.h>
+#include <UiCustomizations/QvelHotkeyHistory.h>
 #include <VelUtil.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QListView>
@@ -39,6 +42,9 @@ private Q_SLOTS:
     void searchesActions();
     void searchesHotkeys();
     void filters();
+    void offersAMenuForARow();
+    void resetsToDefault();
+    void listsWhatAReloadHasCustomized();
     void followsTheStore();
     void reloadsActions();
     void listsTransformations();
@@ -56,6 +62,8 @@ private:
         return showsAll("sucessRemoveLabel|removedFromLabel|undoRemoveBtn");
     }
     bool showsNoAction() const;
+    /// Chooses from the menu of the current row ("Entry|Entry of its submenu"); false if disabled.
+    bool choose(const char *path) const;
 };
 
 // All of the controls, or none of them. The last one is a button.
@@ -366,6 +374,96 @@ void TestHotkeyEditor::filters()
     }
     m->editor->sortActionTreeByColumn(CUI::QvelActionItemModel::GroupColumn);
     QVERIFY(m->rows().startsWith(s("Bevel, ")));
+}
+
+bool TestHotkeyEditor::choose(const char *path) const
+{
+    QTest::keyClick(m->tree(), Qt::Key_F10, Qt::ShiftModifier);
+    for (const QString &text : list(path)) {
+        QWidget *menu = nullptr;
+        QAction *entry = nullptr;
+        const auto isListed = [&] {
+            menu = QApplication::activePopupWidget();
+            for (QAction *action : menu->actions())
+                entry = action->text() == text ? action : entry;
+            return entry != nullptr;
+        };
+        if (!QTest::qWaitFor(isListed))
+            qFatal("the menu has no such entry");
+        if (!entry->isEnabled())
+            return !QTest::qWaitFor([menu] { return menu->close(); });
+        QTest::mouseClick(menu, Qt::LeftButton, {},
+                          static_cast<QMenu *>(menu)->actionGeometry(entry).center());
+    }
+    QCoreApplication::processEvents();
+    return true;
+}
+
+void TestHotkeyEditor::offersAMenuForARow()
+{
+    m->select(sphere);
+    QVERIFY(choose("Copy Hotkey"));
+    QCOMPARE(QGuiApplication::clipboard()->text(), s("S, Ctrl+S"));
+    QVERIFY(choose("Show What Has This Hotkey|Ctrl+S"));
+    QCOMPARE(m->rows(), s("Sphere"));
+    m->editor->searchForHotkey(QString());
+    m->select(boxes);
+    for (const char *entry : {"Copy Hotkey", "Show What Has This Hotkey", "Reset to Default"})
+        QVERIFY(!choose(entry));
+    m->select(bevel);
+    QVERIFY(!choose("Reset Group to Default"));
+    QVERIFY(choose("Show What Has This Hotkey"));
+    QCOMPARE(m->rows(), s("Bevel, Box"));
+}
+
+void TestHotkeyEditor::resetsToDefault()
+{
+    const auto tip = [this] {
+        const QModelIndex current = m->tree()->currentIndex();
+        return current.data(Qt::ToolTipRole) == current.data(Qt::AccessibleDescriptionRole)
+                       ? current.data(Qt::ToolTipRole).toString()
+                       : s("differs");
+    };
+    CUI::QvelHotkeyHistory history(&m->manager);
+    m->assign(box, "S");
+    m->assign(boxes, "F7");
+    m->select(boxes);
+    QCOMPARE(tip(), s("Default: none"));
+    m->select(bevel);
+    QCOMPARE(tip(), QString());
+    m->select(sphere);
+    QCOMPARE(tip(), s("Default: S, Ctrl+S"));
+    const std::pair<QMessageBox::StandardButton, QString> answers[] = {
+            {QMessageBox::Cancel, s("Ctrl+S")},
+            {QMessageBox::No, s("Ctrl+S")},
+            {QMessageBox::Yes, s("Ctrl+S, S")}};
+    for (const auto &[button, hotkeys] : answers) {
+        dialogs->expectBox("Reset to Default", button);
+        QVERIFY(choose("Reset to Default"));
+        QCOMPARE(m->hotkeys(sphere), hotkeys);
+    }
+    QVERIFY(dialogs->texts().last().contains(s("\nS: Box\n")));
+    QCOMPARE(m->hotkeys(box), s("B, F5"));
+    QCOMPARE(tip(), QString());
+    QVERIFY(!choose("Reset to Default"));
+
+    QVERIFY(choose("Reset Group to Default"));
+    QVERIFY(!choose("Reset All to Default"));
+    history.undo();
+    QCOMPARE(history.redoText(), s("Reset Viewport to Default"));
+    history.undo();
+    QCOMPARE(m->hotkeys(box), s("B, F5, S"));
+    QCOMPARE(m->hotkeys(boxes), s("F7"));
+}
+
+void TestHotkeyEditor::listsWhatAReloadHasCustomized()
+{
+    using Step = CUI::ShortcutTransformation;
+    CUI::HotkeySetWatcher watcher(&m->manager);
+    m->editor->setHotkeyFilter(2);
+    QCOMPARE(m->rows(), s("Box"));
+    CUI::QvelShortcutManager::writeTransforms(m->userSet, {{Step::Assign, bevel, s("F8"), {}}});
+    QTRY_COMPARE(m->rows(), s("Bevel"));
 }
 
 // Edits that do not come from the editor.
