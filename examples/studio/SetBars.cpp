@@ -125,7 +125,7 @@ void SetBars::merge()
         if (!isAccepted)
             return;
     }
-    if (m_watcher.applyMerge(merge))
+    if (m_watcher.applyMerge(merge, tr("Merge with the changed file")))
         Q_EMIT stepsReplaced();
     else
         report(tr("The file has been changed again, or cannot be loaded. Your changes are still "

@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QScreen>
 
 namespace Studio {
 
@@ -53,7 +54,7 @@ void SheetMenu::showPrintPreview()
 {
     auto *preview = new QPrintPreviewDialog(window());
     preview->setAttribute(Qt::WA_DeleteOnClose);
-    preview->resize(900, 720);
+    preview->resize(QSize(900, 720).boundedTo(preview->screen()->availableSize()));
     const CUI::HotkeySheet sheet = this->sheet();
     preview->printer()->setResolution(600);
     preview->printer()->setPageSize(CUI::HotkeySheet::defaultPageSize());

@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QScreen>
 #include <QTextStream>
 
 #include <cstdio>
@@ -90,7 +91,9 @@ int runApplication(const Options &options)
     Studio::StudioSession session(options.host, user);
     if (!session.start())
         return fail(session.errorText());
-    session.window().show();
+    QWidget &window = session.window();
+    window.resize(window.size().boundedTo(window.screen()->availableSize()));
+    window.show();
     return QApplication::exec();
 }
 

@@ -26,6 +26,10 @@ class VelAction;
 /// host fires; Ctrl+Tab and Ctrl+Shift+Tab move the focus out of the field, which takes all other
 /// keys. In a dialog, Return activates the host's default button.
 ///
+/// The menu of a row (right button, Menu key, Shift+F10) copies its hotkeys, searches for one, and
+/// resets the action, its group or all to the base, as one command of a QvelHotkeyHistory. The tool
+/// tip of a row whose hotkeys differ from the base names those of the base.
+///
 /// The host places it in a dialog, and calls maybeSaveChanges() before it closes that. The widget
 /// may be deleted while one of its dialogs is open, except while a file dialog asks whether to
 /// replace a file: the function that opened the dialog then returns, with false if it has a result.

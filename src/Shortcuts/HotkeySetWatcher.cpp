@@ -1,5 +1,6 @@
 #include "HotkeySetWatcher.h"
 
+#include "HotkeyEditGroup.h"
 #include "HotkeyFileInput.h"
 #include "KnownFile.h"
 #include "QvelShortcutManager.h"
@@ -233,10 +234,11 @@ HotkeySetMerge HotkeySetWatcher::merge()
             theirs};
 }
 
-bool HotkeySetWatcher::applyMerge(const HotkeySetMerge &merge)
+bool HotkeySetWatcher::applyMerge(const HotkeySetMerge &merge, const QString &text)
 {
     if (path().isEmpty() || KnownFile(path()) != d->mergedFile || !loadTheirs())
         return false;
+    const HotkeyEditGroup command(d->store, text);
     d->store->replaceTransforms(inOrderOf(d->store->allTransforms(), merge.result()));
     return true;
 }

@@ -72,9 +72,10 @@ public:
     /// which is logged as an error, it counts as unchanged.
     HotkeySetMerge merge();
     /// Loads the file and replaces its steps by the result of @p merge, with the choices made in
-    /// it, as one unsaved edit. False, with the store as it was, when the file cannot be loaded or
-    /// has changed since merge(), whose result would then lack something.
-    bool applyMerge(const HotkeySetMerge &merge);
+    /// it, as one unsaved edit; @p text names the command of a QvelHotkeyHistory. False, with the
+    /// store as it was, when the file cannot be loaded or has changed since merge(), whose result
+    /// would then lack something.
+    bool applyMerge(const HotkeySetMerge &merge, const QString &text = QString());
     /// @}
 
 Q_SIGNALS:

@@ -1021,5 +1021,57 @@ Neu zuweisen?</translation>
         <source>Reassign Hotkey</source>
         <translation>Tastenkürzel neu zuweisen</translation>
     </message>
+    <message>
+        <source>Copy Hotkey</source>
+        <translation>Tastenkürzel kopieren</translation>
+    </message>
+    <message>
+        <source>Show What Has This Hotkey</source>
+        <translation>Aktionen mit diesem Tastenkürzel anzeigen</translation>
+    </message>
+    <message>
+        <source>Reset %1 to Default</source>
+        <translation>%1 auf Standard zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset to Default</source>
+        <translation>Auf Standard zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset Group to Default</source>
+        <translation>Gruppe auf Standard zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset All to Default</source>
+        <translation>Alle auf Standard zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Default: none</source>
+        <translation>Standard: keine</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Standard: %1</translation>
+    </message>
+    <message>
+        <source>Other actions have these default hotkeys now:
+
+%1
+
+Take them back?</source>
+        <translation>Andere Aktionen haben jetzt diese Standard-Tastenkürzel:
+
+%1
+
+Sollen sie zurückgeholt werden?</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Belassen</translation>
+    </message>
 </context>
 </TS>

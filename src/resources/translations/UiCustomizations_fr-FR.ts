@@ -1021,5 +1021,57 @@ Le réattribuer ?</translation>
         <source>Reassign Hotkey</source>
         <translation>Réattribuer le raccourci</translation>
     </message>
+    <message>
+        <source>Copy Hotkey</source>
+        <translation>Copier le raccourci</translation>
+    </message>
+    <message>
+        <source>Show What Has This Hotkey</source>
+        <translation>Afficher ce qui a ce raccourci</translation>
+    </message>
+    <message>
+        <source>Reset %1 to Default</source>
+        <translation>Rétablir les valeurs par défaut de %1</translation>
+    </message>
+    <message>
+        <source>Reset to Default</source>
+        <translation>Rétablir les valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>Reset Group to Default</source>
+        <translation>Rétablir les valeurs par défaut du groupe</translation>
+    </message>
+    <message>
+        <source>Reset All to Default</source>
+        <translation>Tout rétablir par défaut</translation>
+    </message>
+    <message>
+        <source>Default: none</source>
+        <translation>Par défaut&#xa0;: aucun</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Par défaut&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Other actions have these default hotkeys now:
+
+%1
+
+Take them back?</source>
+        <translation>D’autres actions ont maintenant ces raccourcis par défaut&#xa0;:
+
+%1
+
+Les reprendre&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Laisser</translation>
+    </message>
 </context>
 </TS>

@@ -1021,5 +1021,57 @@ Reassign it?</source>
         <source>Reassign Hotkey</source>
         <translation>ホットキーの再割り当て</translation>
     </message>
+    <message>
+        <source>Copy Hotkey</source>
+        <translation>ホットキーをコピー</translation>
+    </message>
+    <message>
+        <source>Show What Has This Hotkey</source>
+        <translation>このホットキーを持つ項目を表示</translation>
+    </message>
+    <message>
+        <source>Reset %1 to Default</source>
+        <translation>%1 を既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Reset to Default</source>
+        <translation>既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Reset Group to Default</source>
+        <translation>グループを既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Reset All to Default</source>
+        <translation>すべて既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Default: none</source>
+        <translation>既定: なし</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>既定: %1</translation>
+    </message>
+    <message>
+        <source>Other actions have these default hotkeys now:
+
+%1
+
+Take them back?</source>
+        <translation>次の既定のホットキーは現在、他のアクションに割り当てられています:
+
+%1
+
+元に戻しますか?</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>取り戻す</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>そのままにする</translation>
+    </message>
 </context>
 </TS>

@@ -1021,5 +1021,57 @@ Reassign it?</source>
         <source>Reassign Hotkey</source>
         <translation>단축키 다시 할당</translation>
     </message>
+    <message>
+        <source>Copy Hotkey</source>
+        <translation>단축키 복사</translation>
+    </message>
+    <message>
+        <source>Show What Has This Hotkey</source>
+        <translation>이 단축키가 할당된 항목 표시</translation>
+    </message>
+    <message>
+        <source>Reset %1 to Default</source>
+        <translation>%1을(를) 기본값으로 초기화</translation>
+    </message>
+    <message>
+        <source>Reset to Default</source>
+        <translation>기본값으로 초기화</translation>
+    </message>
+    <message>
+        <source>Reset Group to Default</source>
+        <translation>그룹을 기본값으로 초기화</translation>
+    </message>
+    <message>
+        <source>Reset All to Default</source>
+        <translation>모두 기본값으로 초기화</translation>
+    </message>
+    <message>
+        <source>Default: none</source>
+        <translation>기본값: 없음</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>기본값: %1</translation>
+    </message>
+    <message>
+        <source>Other actions have these default hotkeys now:
+
+%1
+
+Take them back?</source>
+        <translation>다음 기본 단축키가 현재 다른 동작에 할당되어 있습니다:
+
+%1
+
+다시 가져오시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>그대로 두기</translation>
+    </message>
 </context>
 </TS>

@@ -1021,5 +1021,57 @@ Reatribuir?</translation>
         <source>Reassign Hotkey</source>
         <translation>Reatribuir atalho</translation>
     </message>
+    <message>
+        <source>Copy Hotkey</source>
+        <translation>Copiar atalho</translation>
+    </message>
+    <message>
+        <source>Show What Has This Hotkey</source>
+        <translation>Mostrar o que tem este atalho</translation>
+    </message>
+    <message>
+        <source>Reset %1 to Default</source>
+        <translation>Restaurar o padrão de %1</translation>
+    </message>
+    <message>
+        <source>Reset to Default</source>
+        <translation>Restaurar padrão</translation>
+    </message>
+    <message>
+        <source>Reset Group to Default</source>
+        <translation>Restaurar padrão do grupo</translation>
+    </message>
+    <message>
+        <source>Reset All to Default</source>
+        <translation>Restaurar padrão de tudo</translation>
+    </message>
+    <message>
+        <source>Default: none</source>
+        <translation>Padrão: nenhum</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Padrão: %1</translation>
+    </message>
+    <message>
+        <source>Other actions have these default hotkeys now:
+
+%1
+
+Take them back?</source>
+        <translation>Outras ações têm agora estes atalhos padrão:
+
+%1
+
+Retomá-los?</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>Retomar</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Deixar</translation>
+    </message>
 </context>
 </TS>

@@ -1021,5 +1021,57 @@ Reassign it?</source>
         <source>Reassign Hotkey</source>
         <translation>重新指定快捷键</translation>
     </message>
+    <message>
+        <source>Copy Hotkey</source>
+        <translation>复制快捷键</translation>
+    </message>
+    <message>
+        <source>Show What Has This Hotkey</source>
+        <translation>显示使用此快捷键的操作</translation>
+    </message>
+    <message>
+        <source>Reset %1 to Default</source>
+        <translation>将“%1”重置为默认</translation>
+    </message>
+    <message>
+        <source>Reset to Default</source>
+        <translation>重置为默认</translation>
+    </message>
+    <message>
+        <source>Reset Group to Default</source>
+        <translation>将组重置为默认</translation>
+    </message>
+    <message>
+        <source>Reset All to Default</source>
+        <translation>全部重置为默认</translation>
+    </message>
+    <message>
+        <source>Default: none</source>
+        <translation>默认：无</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>默认：%1</translation>
+    </message>
+    <message>
+        <source>Other actions have these default hotkeys now:
+
+%1
+
+Take them back?</source>
+        <translation>以下默认快捷键现在由其他操作使用：
+
+%1
+
+要收回吗？</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>收回</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>保留</translation>
+    </message>
 </context>
 </TS>
