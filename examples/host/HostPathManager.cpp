@@ -1,13 +1,13 @@
 #include "HostPathManager.h"
 
 #include <UiCustomizations/QvelMessageLog.h>
+#include <UiCustomizations/WholeFile.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 namespace Host {
 
@@ -165,12 +165,10 @@ void HostPathManager::writeRecord() const
                      .arg(m_userDirectory));
         return;
     }
-    QSaveFile file(recordPath());
-    // Only flushing shows whether the last bytes could be written.
-    if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.flush()
-        || !file.commit()) {
+    const QString error = CUI::WholeFile::save(recordPath(), json);
+    if (!error.isEmpty()) {
         warn(QStringLiteral("The current set is not recorded: '%1' cannot be written: %2")
-                     .arg(file.fileName(), file.errorString()));
+                     .arg(recordPath(), error));
     }
 }
 

@@ -2,7 +2,8 @@
 
 #include "Scene.h"
 
-#include <QSaveFile>
+#include <UiCustomizations/WholeFile.h>
+
 #include <QTextStream>
 
 namespace Studio::SceneExport {
@@ -34,10 +35,8 @@ void write(QTextStream &out, const SceneObject &object, int &vertices, int &plac
 
 bool writeObj(const Scene &scene, bool onlySelected, const QString &path)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    QTextStream out(&file);
+    QByteArray text;
+    QTextStream out(&text);
     out.setCodec("UTF-8");
     int vertices = 1;
     int places = 1;
@@ -46,7 +45,7 @@ bool writeObj(const Scene &scene, bool onlySelected, const QString &path)
             write(out, object, vertices, places);
     }
     out.flush();
-    return out.status() == QTextStream::Ok && file.commit();
+    return CUI::WholeFile::save(path, text).isEmpty();
 }
 
 } // namespace Studio::SceneExport

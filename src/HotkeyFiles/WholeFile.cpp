@@ -3,6 +3,7 @@
 #include "LazyLog.h"
 
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QStorageInfo>
 
 namespace CUI {
@@ -17,29 +18,40 @@ bool overwrite(QFile &file, const QByteArray &contents)
 
 } // namespace
 
-WholeFile::WholeFile(const QString &path) : m_path(path), m_replacement(path) { }
+WholeFile::WholeFile(const QString &path)
+    : m_path(path), m_replacement(std::make_unique<QSaveFile>(path))
+{
+}
+
+WholeFile::~WholeFile() = default;
+
+QString WholeFile::save(const QString &path, const QByteArray &contents)
+{
+    WholeFile file(path);
+    return file.open() && file.write(contents) ? QString() : file.errorString();
+}
 
 bool WholeFile::open()
 {
-    if (m_replacement.open(QIODevice::WriteOnly))
+    if (m_replacement->open(QIODevice::WriteOnly))
         return true;
-    m_error = m_replacement.errorString();
+    m_error = m_replacement->errorString();
     const QFileInfo file(m_path);
     return file.isFile() && file.isWritable() && !QFileInfo(file.path()).isWritable();
 }
 
 bool WholeFile::write(const QByteArray &contents)
 {
-    if (!m_replacement.isOpen())
+    if (!m_replacement->isOpen())
         return writeInPlace(contents);
     // commit() alone does not notice that the last buffered bytes could not be written, and would
     // put a cut-off file in the place of the old one.
-    if (m_replacement.write(contents) == contents.size() && m_replacement.flush()
-        && m_replacement.commit())
+    if (m_replacement->write(contents) == contents.size() && m_replacement->flush()
+        && m_replacement->commit())
         return true;
-    m_error = m_replacement.errorString();
+    m_error = m_replacement->errorString();
     // All bytes were written, but the directory does not let the old file go.
-    return m_replacement.error() == QFileDevice::RenameError && writeInPlace(contents);
+    return m_replacement->error() == QFileDevice::RenameError && writeInPlace(contents);
 }
 
 bool WholeFile::writeInPlace(const QByteArray &contents)

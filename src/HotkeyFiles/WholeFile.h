@@ -1,7 +1,12 @@
 #pragma once
 
-#include <QSaveFile>
+#include "UiCustomizationsExport.h"
+
 #include <QString>
+
+#include <memory>
+
+class QSaveFile;
 
 namespace CUI {
 
@@ -10,11 +15,17 @@ namespace CUI {
 /// Where the directory does not let the file be replaced, though the file itself can be written (a
 /// directory without write permission, a file that is a mount point), it is written in place as a
 /// last resort. The log then has a warning, since a crash in between would leave it half written.
-class WholeFile
+class CUI_CORE_EXPORT WholeFile
 {
+    Q_DISABLE_COPY(WholeFile)
+
 public:
-    /// Nothing is opened or written yet.
+    /// Nothing is opened or written yet. @p path is a local file path.
     explicit WholeFile(const QString &path);
+    ~WholeFile();
+
+    /// Opens and writes the file @p path. Returns why that has failed, or an empty text.
+    static QString save(const QString &path, const QByteArray &contents);
 
     /// False when the file can be neither replaced nor written in place.
     bool open();
@@ -30,7 +41,7 @@ private:
     bool writeInPlace(const QByteArray &contents);
 
     QString m_path;
-    QSaveFile m_replacement;
+    std::unique_ptr<QSaveFile> m_replacement;
     QString m_error;
 };
 

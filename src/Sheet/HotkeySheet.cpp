@@ -196,10 +196,8 @@ bool HotkeySheet::save(const QString &path, const QPageSize &pageSize) const
                                                               : toCsv();
     if (contents.isEmpty())
         return false; // the log has the reason already
-    WholeFile file(path);
-    if (!file.open() || !file.write(contents))
-        return fail(file.errorString());
-    return true;
+    const QString error = WholeFile::save(path, contents);
+    return error.isEmpty() || fail(error);
 }
 
 bool HotkeySheet::print(QPagedPaintDevice &device) const

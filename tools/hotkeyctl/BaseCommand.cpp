@@ -4,6 +4,8 @@
 #include "Session.h"
 #include "TextOutput.h"
 
+#include <UiCustomizations/WholeFile.h>
+
 #include <QCommandLineParser>
 #include <QFile>
 #include <QTemporaryDir>
@@ -43,7 +45,7 @@ ExitCode run(const QCommandLineParser &line, Session &session)
         return session.problem(
                 QStringLiteral("the base hotkeys cannot be written as a valid base file"));
     }
-    const QString error = writeWhole(path, *text);
+    const QString error = CUI::WholeFile::save(path, *text);
     if (!error.isEmpty())
         return session.problem(QStringLiteral("%1: cannot be written: %2").arg(path, error));
     session.out() << "Saved as " << printable(path) << ".\n";

@@ -6,6 +6,8 @@
 #include "SetSteps.h"
 #include "TextOutput.h"
 
+#include <UiCustomizations/WholeFile.h>
+
 #include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
@@ -92,7 +94,7 @@ ExitCode run(const QCommandLineParser &line, Session &session)
     if (!reason.isEmpty())
         return session.problem(
                 QStringLiteral("%1: is not written, because %2").arg(*target, reason));
-    const QString error = writeWhole(*target, contentsOf(converted));
+    const QString error = CUI::WholeFile::save(*target, contentsOf(converted));
     if (!error.isEmpty())
         return session.problem(QStringLiteral("%1: cannot be written: %2").arg(*target, error));
     session.close();

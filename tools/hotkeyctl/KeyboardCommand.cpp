@@ -5,6 +5,8 @@
 #include "OutputFile.h"
 #include "Session.h"
 
+#include <UiCustomizations/WholeFile.h>
+
 #include <QCommandLineParser>
 #include <QKeySequence>
 #include <QLocale>
@@ -67,7 +69,7 @@ ExitCode run(const QCommandLineParser &line, Session &session)
     CUI::HotkeyKeyboard keyboard = keyboardOf(*layout, session);
     keyboard.setContexts(*contexts);
     keyboard.setModifiers(*modifiers);
-    fault = writeWhole(path, keyboard.toSvg());
+    fault = CUI::WholeFile::save(path, keyboard.toSvg());
     if (!fault.isEmpty())
         return session.problem(QStringLiteral("%1: cannot be written: %2").arg(path, fault));
     return loading == Session::Loading::Complete ? ExitCode::Done : ExitCode::Problem;

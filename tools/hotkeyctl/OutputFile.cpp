@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace HotkeyCtl {
 
@@ -63,16 +62,6 @@ QString reasonAgainstReplacingBase(const QString &path, const QString &presetDir
     return CUI::QvelShortcutManager::validateShortcuts(path)
                    ? QString()
                    : QStringLiteral("it is not a base hotkey file");
-}
-
-QString writeWhole(const QString &path, const QByteArray &contents)
-{
-    QSaveFile file(path);
-    // Only flushing shows whether the last bytes could be written.
-    if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush()
-        && file.commit())
-        return {};
-    return file.errorString();
 }
 
 } // namespace HotkeyCtl

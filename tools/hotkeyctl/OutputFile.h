@@ -15,7 +15,4 @@ QString reasonAgainstReplacingSet(const QString &path, const QString &presetDire
 /// The same for a base file.
 QString reasonAgainstReplacingBase(const QString &path, const QString &presetDirectory);
 
-/// Writes the file as a whole or not at all; returns why it cannot be written, or an empty text.
-QString writeWhole(const QString &path, const QByteArray &contents);
-
 } // namespace HotkeyCtl
