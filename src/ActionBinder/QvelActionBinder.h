@@ -44,8 +44,9 @@ class QvelShortcutManager;
 /// Within one context a key never is ambiguous between bound actions. Where the store has two texts
 /// for one key (Ctrl+Shift+Z, Shift+Ctrl+Z, or on a keyboard of the USA, Ctrl+Shift+= and Ctrl++),
 /// the action with the smallest identifier gets it, and where several QActions are bound to one
-/// identifier, the first of them that is enabled and within reach is triggered. Enter stands for
-/// Return as well, which the hotkey editor records as Enter, unless another action has Return.
+/// identifier, the first of them that is enabled and within reach is triggered. The hotkey editor
+/// records the Return key as Enter: a hotkey with Enter is triggered by Return as well, unless
+/// another action of the context has a hotkey with Return.
 /// Where actions of several contexts are within reach, the one whose context's widget is nearest to
 /// the keyboard focus is triggered, and one of a context without widget last. setContextOrder()
 /// decides between contexts that are equally near; without it they are ambiguous, and so are

@@ -10,7 +10,7 @@ class QSaveFile;
 
 namespace CUI {
 
-/// A file that is written as a whole, or stays as it was.
+/// Replaces a file atomically: it has either all of the new contents or the old ones.
 ///
 /// Where the directory does not let the file be replaced, though the file itself can be written (a
 /// directory without write permission, a file that is a mount point), it is written in place as a

@@ -30,8 +30,8 @@ public:
     const Steps &steps() const { return m_steps; }
 
     bool hasUnsaved() const { return m_savedCount < m_steps.size(); }
-    /// The state differs from the file. It can be neither modified nor unmodified: when saved steps
-    /// were cancelled from outside.
+    /// True when the steps differ from the file. After cancelFrom() has removed saved steps, both
+    /// isModified() and isUnmodified() can be false; the store then keeps its modified state.
     bool isModified() const { return hasUnsaved() || m_lacksSavedSteps; }
     bool isUnmodified() const { return m_savedCount == m_steps.size() && !m_lacksSavedSteps; }
     /// The file holds steps that the list lacks, so that no edit of the list leads back to it.

@@ -52,7 +52,7 @@ void HotkeyField::setHotkey(const QString &hotkey)
     m_captured = {};
     if (!keys.isEmpty())
         m_captured.combination = keys[0];
-    m_edit->setText(HotkeyRecorder::text(m_captured));
+    m_edit->setText(HotkeyRecorder::displayText(m_captured));
 }
 
 void HotkeyField::clear()
@@ -90,7 +90,7 @@ void HotkeyField::press(const QKeyEvent &event)
         return;
     m_captured = HotkeyRecorder::capture(event);
     const HotkeyRecorder::WayOut way = HotkeyRecorder::wayOut(event);
-    m_edit->setText(HotkeyRecorder::text(m_captured));
+    m_edit->setText(HotkeyRecorder::displayText(m_captured));
     Q_EMIT pressed();
     if (way != HotkeyRecorder::WayOut::None && m_edit->hasFocus())
         leave(way);

@@ -118,7 +118,7 @@ Qt::KeyboardModifiers heldAfter(const QKeyEvent &event)
     return Qt::KeyboardModifiers(withoutMeta(static_cast<int>(event.modifiers()) & ~released));
 }
 
-QString text(const Capture &capture)
+QString displayText(const Capture &capture)
 {
     const QKeySequence shown(capture.combination != 0 ? capture.combination : capture.modifiers);
     return shown.toString(QKeySequence::NativeText);

@@ -6,7 +6,8 @@ class QKeyEvent;
 
 namespace CUI {
 
-/// Turns key presses into hotkeys.
+/// Functions that convert a key press to a key and modifiers. HotkeyField::hotkey() returns the
+/// portable text.
 namespace HotkeyRecorder {
 
 /// The result of a key press.
@@ -18,7 +19,7 @@ struct Capture {
     int modifiers = 0;
 };
 
-/// Reads the key press and writes it to the debug log.
+/// Reads the key press and writes it to a logging category of the toolkit.
 Capture capture(const QKeyEvent &event);
 
 /// Whether a key press moves the focus out of a field that takes all other keys.
@@ -32,7 +33,7 @@ WayOut wayOut(const QKeyEvent &event);
 Qt::KeyboardModifiers heldAfter(const QKeyEvent &event);
 
 /// The text that a field shows, in the user's language: the hotkey, or without one the modifiers.
-QString text(const Capture &capture);
+QString displayText(const Capture &capture);
 
 } // namespace HotkeyRecorder
 } // namespace CUI

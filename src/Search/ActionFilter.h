@@ -9,9 +9,9 @@
 
 namespace CUI {
 
-/// Chooses actions by the rules of the table of actions (QvelSortFilterProxyModel), of which it can
-/// combine several contexts and categories. An action is chosen when it passes all of: the
-/// contexts, the categories, the search and the state. At first every action is.
+/// Selects actions by the same rules as QvelSortFilterProxyModel, but can have several contexts and
+/// categories. An action is selected when it passes all of: the contexts, the categories, the
+/// search and the state. By default all actions are selected.
 struct CUI_CORE_EXPORT ActionFilter {
     /// Which hotkeys an action must have.
     enum class State {

@@ -21,8 +21,8 @@ namespace CUI {
 /// one key to the keyboard. Among the actions of a context that claim a key, the one with the
 /// smallest identifier may use it, which is the one that the store would find.
 ///
-/// Whoever claims Enter claims Return as well, the other key of that name, which the hotkey editor
-/// records as Enter; an action that claims Return itself has precedence.
+/// The hotkey editor records the Return key as Enter. An action with Enter therefore claims Return
+/// as well, unless another action of the context has a hotkey with Return.
 class CUI_CORE_EXPORT HotkeyClaims
 {
 public:

@@ -16,7 +16,7 @@ class QvelShortcutManager;
 ///
 /// The steps are replayed on the base hotkeys of a store by the rules of loading a set. Nothing is
 /// logged, no store is changed, and the report does not follow later changes.
-class CUI_EXPORT HotkeySetReport
+class CUI_CORE_EXPORT HotkeySetReport
 {
 public:
     /// The steps of a set, in the order in which they are replayed.
@@ -35,11 +35,10 @@ public:
         IsRefused,
         /// An assignment that takes the hotkey from an action of the same context that has it in
         /// the base configuration, probably unknown to the user. A set does not say on which base
-        /// it
-        /// was made: a base that has given the hotkey to that action since is assumed unless the
-        /// set has a step, anywhere, for that action and hotkey (letter
-        /// case ignored). HotkeyEdits records one whenever it takes a hotkey from an action; sets
-        /// that were made otherwise may lack it.
+        /// it was made: a base that has given the hotkey to that action since is assumed unless the
+        /// set has a step, anywhere, for that action and hotkey (letter case ignored). HotkeyEdits
+        /// records one whenever it takes a hotkey from an action; sets that were made otherwise may
+        /// lack it.
         TakesNewBaseHotkey,
         /// The step does what it says.
         Applies,
@@ -63,7 +62,8 @@ public:
         Remedy remedy = Remedy::Keep; ///< what was chosen
         ActionIdentifier target; ///< the action that the step is remapped to; otherwise empty
 
-        /// False when the step names an unknown action, removes nothing or is refused.
+        /// False when the step names an unknown action, removes nothing or is refused; true for all
+        /// other effects, including HasNoEffect.
         bool applies() const;
     };
 

@@ -156,7 +156,7 @@ bool QvelShortcutManager::assignShortcutInternal(const ActionIdentifier &identif
         }
         holder = getActionIdFromShortcut(shortcut, action->contextId());
     }
-    if (!holder.isEmpty() && holder != identifier) {
+    if (!holder.isEmpty() && holder != identifier) { // a conflict: the new action gets the hotkey
         const ScopedMessageTypeCap cap(log, QvelMessageLog::Warning);
         logReassignment(shortcut, holder, identifier);
         unassignShortcutInternal(holder, shortcut, userModification);

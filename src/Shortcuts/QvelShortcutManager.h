@@ -32,8 +32,9 @@ class ShortcutOwnerIndex;
 /// the state has changed. Nothing throws: problems are written to the QvelMessageLog.
 ///
 /// A hotkey is the portable text of one key combination (Ctrl+Shift+Z, Num+5). Within one action
-/// context it belongs to one action only, letter case ignored: assigning it to another takes it
-/// from the first. Actions of different contexts may share it.
+/// context one action has it, letter case ignored. Where an assignment conflicts with that, the new
+/// action gets the hotkey and the old one loses it. Actions of different contexts may share it.
+/// Texts are compared, not keys: HotkeyClaims finds two texts that mean one key.
 class CUI_CORE_EXPORT QvelShortcutManager : public QObject
 {
     Q_OBJECT
@@ -94,7 +95,8 @@ public:
     void unassignShortcut(const ActionIdentifier &identifier, const QString &shortcut,
                           const QString &description);
 
-    /// Makes the current hotkeys the base and forgets the steps. Emits what clearTransforms() does.
+    /// Makes the hotkeys in effect the new base hotkeys and removes the recorded steps. Emits what
+    /// clearTransforms() does.
     void applyTransforms();
 
     /// Drops the steps and returns to the base hotkeys. Emits shortcutsUnModified() if there were
@@ -138,9 +140,9 @@ public:
     /// a character makes the save fail, with an error in the log.
     /// @{
 
-    /// Writes the base hotkeys as a base hotkey file, ordered by action. When the file cannot be
-    /// opened or written, nothing is said. A result that does not follow the schema is reported on
-    /// the process's debug output.
+    /// Writes the base hotkeys as a base hotkey file, ordered by action. Returns
+    /// without a message in the log when the file cannot be opened or written. A result that does
+    /// not follow the schema is reported on the process's debug output.
     void saveShortcuts(const QString &path) const;
 
     /// Replaces the store's contents by a base hotkey file. Returns true when all of it was read.
@@ -153,9 +155,9 @@ public:
     /// steps are cancelled first, even when the file can then not be written. Emits
     /// shortcutTransformsCollapsed(), then shortcutsUnModified() if there were unsaved edits, then
     /// shortcutTransformsSaved(). Returns false, with the old file untouched and the store as
-    /// modified as before, when it cannot be written. If steps that the file has were cancelled
-    /// with unsaved ones, the store then stays modified, whatever is edited, until it is saved,
-    /// cleared or loaded again.
+    /// modified as before, when it cannot be written. If saved steps
+    /// were cancelled by unsaved ones and saving fails, the store remains modified, even after
+    /// further edits, until it is saved, cleared or loaded.
     bool saveShortcutTransforms(const QString &path);
 
     /// Replaces the recorded steps by those of a hotkey set file and applies them, as unmodified
@@ -317,6 +319,7 @@ private:
     using ShortcutMap = std::unordered_map<ActionIdentifier, QShortcutsList>;
     friend class HotkeySetCommands; // shows the user what became of a file
 
+    /// Decides the conflict when another action of the context holds the hotkey: that one loses it.
     bool assignShortcutInternal(const ActionIdentifier &identifier, const QString &shortcut,
                                 bool userModification, bool checkRoom);
     void unassignShortcutInternal(const ActionIdentifier &identifier, const QString &shortcut,

@@ -145,7 +145,8 @@ void TestHotkeyRecorder::captures()
     const HotkeyRecorder::Capture capture = HotkeyRecorder::capture(event);
     const QKeySequence sequence(capture.combination);
     QCOMPARE(sequence.toString(QKeySequence::PortableText), hotkey);
-    QCOMPARE(HotkeyRecorder::text(capture), held + sequence.toString(QKeySequence::NativeText));
+    QCOMPARE(HotkeyRecorder::displayText(capture),
+             held + sequence.toString(QKeySequence::NativeText));
     QTEST(int(HotkeyRecorder::wayOut(event)), "wayOut");
 }
 

@@ -279,7 +279,7 @@ void TestKeysOfXServer::layouts()
     QFETCH(QString, held);
     setLayout(layout);
     QCOMPARE(typed(keys), hotkey);
-    QCOMPARE(HotkeyRecorder::text(m_window.presses.last().capture), hotkey + held);
+    QCOMPARE(HotkeyRecorder::displayText(m_window.presses.last().capture), hotkey + held);
 }
 
 void TestKeysOfXServer::layoutsThatAreBuiltIn_data()
