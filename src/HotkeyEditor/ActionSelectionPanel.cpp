@@ -294,17 +294,21 @@ void ActionSelectionPanel::updateSelectedActionShortcutList()
 
 void ActionSelectionPanel::followStep(const ShortcutTransformation &step)
 {
+    const bool isOfAction = step.actionId() == m_currentAction;
+    // Another action may have got, or lost, the hotkey in the field.
+    const bool isOfField = step.shortcut().compare(m_field->hotkey(), Qt::CaseInsensitive) == 0;
+    // Finding the action takes a pass over all rows, and a set has many steps for other actions.
+    if (!isOfAction && !isOfField && m_rows->agreeWithStore(m_currentAction))
+        return;
     if (currentAction() == nullptr)
         return;
-    if (step.actionId() == m_currentAction) {
+    if (isOfAction) {
         if (step.kind() == ShortcutTransformation::Assign)
             m_rows->addAssigned(m_currentAction, step.shortcut());
         else
             m_rows->remove(step.shortcut());
     }
-    // Another action may have got, or lost, the hotkey in the field.
-    if (step.actionId() == m_currentAction
-        || step.shortcut().compare(m_field->hotkey(), Qt::CaseInsensitive) == 0)
+    if (isOfAction || isOfField)
         updateAssignedShortcutFields();
     // A step for another action can have taken a hotkey from this one, and a step may have had no
     // effect at all.
