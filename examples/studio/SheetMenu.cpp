@@ -66,8 +66,9 @@ void SheetMenu::showPrintPreview()
 
 void SheetMenu::exportSheet()
 {
-    const QStringList filters = {tr("Web page (*.html)"), tr("PDF document (*.pdf)"),
-                                 tr("Markdown (*.md)"), tr("Table (*.csv)")};
+    QStringList filters = {tr("Web page (*.html)"), tr("PDF document (*.pdf)")};
+    if (!m_withKeyboard->isChecked()) // tables have no pictures
+        filters << tr("Markdown (*.md)") << tr("Table (*.csv)");
     QString filter;
     QString path = QFileDialog::getSaveFileName(window(), tr("Export Hotkeys"), tr("Hotkeys.html"),
                                                 filters.join(QLatin1String(";;")), &filter);

@@ -115,8 +115,9 @@ SheetPages::Item SheetPages::picture(const HotkeyKeyboard &keyboard) const
     item.style = Picture;
     item.picture = &keyboard;
     item.width = m_columnWidth;
-    item.height = std::min(widest,
-                           (m_bottom - heightOf(this->item(Context, QString()))) / count - caption);
+    const double heading = heightOf(this->item(Context, QString()));
+    const double room = (m_bottom - heading) / count - caption;
+    item.height = std::min(widest, std::max(caption, room)); // a page may have no room for it
     return item;
 }
 

@@ -358,7 +358,11 @@ void TestHotkeySheet::longNamesFillPages()
         host.registry()->addAction({1, QString::number(i)}, QString(100000, QLatin1Char('W')), 1,
                                    QString(), false);
     CUI::QvelShortcutManager store;
-    const HotkeySheet sheet(store, ActionFilter());
+    store.assignShortcut({1, s("1")}, s("Ctrl+X"), QString());
+    HotkeySheet sheet(store, ActionFilter());
+    CUI::HotkeyKeyboard keyboard;
+    keyboard.readHotkeys(store);
+    sheet.setKeyboard(keyboard);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter tiny(&buffer);
