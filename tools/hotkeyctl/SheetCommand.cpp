@@ -166,7 +166,7 @@ Command sheetCommand()
             "exit status is 1.\n"
             "\n"
             "Example: the keys of two contexts, to print\n"
-            "  hotkeyctl sheet -o keys.pdf --context Mesh --context UV --paper a4\n"
+            "  hotkeyctl sheet -o keys.pdf --context Mesh --context \"UV Editor\" --paper a4\n"
             "\n"
             "Example: all keys, with pictures of a German keyboard\n"
             "  hotkeyctl sheet -o keys.html --keyboard --layout de\n");
