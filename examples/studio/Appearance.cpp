@@ -27,6 +27,8 @@ QPalette darkPalette()
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor(0x7c, 0x7e, 0x82));
+    // The style engraves disabled entries of a menu with this colour, which blurs them.
+    palette.setColor(QPalette::Disabled, QPalette::Light, palette.color(QPalette::Base));
     return palette;
 }
 

@@ -155,7 +155,7 @@ CustomizeDialog *MainWindow::showCustomizeDialog()
 {
     if (m_dialog == nullptr) {
         m_dialog = new CustomizeDialog(m_store, *m_watcher, *m_hotkeyHistory, this);
-        m_dialog->resize(m_dialog->size().boundedTo(size())); // which fits the screen
+        m_dialog->resize(m_dialog->size().boundedTo(size() * 0.9)); // on any screen
         m_dialog->setAuditOptions(m_host.catalogue().auditOptions());
         m_dialog->setLoggedText(m_console->toPlainText());
     }

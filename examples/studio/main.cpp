@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QScreen>
+#include <QStyle>
 #include <QTextStream>
 
 #include <cstdio>
@@ -92,7 +93,8 @@ int runApplication(const Options &options)
     if (!session.start())
         return fail(session.errorText());
     QWidget &window = session.window();
-    window.resize(window.size().boundedTo(window.screen()->availableSize()));
+    const QSize titleBar(0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    window.resize(window.size().boundedTo(window.screen()->availableSize() - titleBar));
     window.show();
     return QApplication::exec();
 }
