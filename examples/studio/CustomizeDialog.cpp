@@ -70,18 +70,12 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     auto *historyView = new QUndoView(&history);
     historyView->setEmptyLabel(tr("Before the first edit"));
     m_tabs->addTab(historyView, tr("H&istory"));
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    QPushButton *sheet = buttons->addButton(tr("&Sheet"), QDialogButtonBox::ActionRole);
-    sheet->setMenu(new SheetMenu(&manager, m_editor, m_keyboard, sheet));
-    sheet->setAutoDefault(false);
-    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     auto *layout = new QVBoxLayout(this);
     const auto *bars = new SetBars(manager, watcher, layout, this);
     connect(bars, &SetBars::stepsReplaced, m_editor,
             &CUI::QvelShortcutsWidget::resetSelectedActionFields);
     layout->addWidget(m_tabs);
-    layout->addWidget(buttons);
-    new HistoryButtons(history, buttons, this); // follows the texts in the dialog
+    layout->addWidget(makeButtons(history));
     m_editor->setPresetComboBoxItemIcon(Icons::make(QStringLiteral("lock")));
     // The default red and green are made for light backgrounds.
     if (palette().color(QPalette::Base).lightness() < 128) {
@@ -90,7 +84,6 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     }
     connect(&CUI::QvelMessageLog::getInstance(), &CUI::QvelMessageLog::messageLogged, m_log,
             &CUI::QvelMessageLogWidget::append);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
     // The list of sets is updated before the path manager, which the title asks.
     const auto later = [this] { QTimer::singleShot(0, this, &CustomizeDialog::showTitle); };
     connect(m_editor, &CUI::QvelShortcutsWidget::presetModified, this, later);
@@ -99,6 +92,20 @@ CustomizeDialog::CustomizeDialog(CUI::QvelShortcutManager &manager, CUI::HotkeyS
     connect(&manager, &CUI::QvelShortcutManager::shortcutConfigurationLoaded, this, later);
     connect(&manager, &CUI::QvelShortcutManager::shortcutTransformsCleared, this, later);
     showTitle();
+}
+
+QDialogButtonBox *CustomizeDialog::makeButtons(CUI::QvelHotkeyHistory &history)
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    new HistoryButtons(history, buttons, this);
+    QPushButton *sheet = buttons->addButton(tr("&Sheet"), QDialogButtonBox::ActionRole);
+    sheet->setMenu(new SheetMenu(&m_manager, m_editor, m_keyboard, sheet));
+    sheet->setAutoDefault(false);
+    QPushButton *close = buttons->button(QDialogButtonBox::Close);
+    close->setAutoDefault(false);
+    setTabOrder(sheet, close);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
+    return buttons;
 }
 
 void CustomizeDialog::addKeyboard()

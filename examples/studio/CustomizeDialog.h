@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+class QDialogButtonBox;
 class QTabWidget;
 
 namespace CUI {
@@ -49,11 +50,13 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    /// To be called when the tabs are in the dialog.
+    QDialogButtonBox *makeButtons(CUI::QvelHotkeyHistory &history);
     void addKeyboard();
     void addConflicts();
     void showTitle();
 
-    const CUI::QvelShortcutManager &m_manager;
+    CUI::QvelShortcutManager &m_manager;
     CUI::QvelActionItemModel *m_model;
     CUI::QvelActionItemModel *m_menuModel;
     CUI::QvelShortcutsWidget *m_editor;
