@@ -1,5 +1,6 @@
 #include "FullDisk.h"
 #include "HostActionRegistry.h"
+#include "HostCatalogue.h"
 #include "SampleHost.h"
 #include "Text.h"
 
@@ -13,6 +14,7 @@
 #include <QtTest>
 
 using CUI::ConfigType;
+using Host::HostCatalogue;
 using Host::SampleHost;
 
 namespace {
@@ -36,6 +38,27 @@ void setCurrentSet(const QString &file)
     CUI::IPathManager::get()->setCurrentConfigurationFile(ConfigType::HotkeySet, file);
 }
 
+/// Lets the texts of catalogues stand between single quotes.
+QByteArray json(QByteArray text)
+{
+    return text.replace('\'', '"');
+}
+
+const QByteArray sample = json(R"({
+  'defaultSet': 'Mine.hsx',
+  'contexts': [
+    {'id': 3, 'name': 'Viewport'},
+    {'id': 1, 'name': 'Editing'}
+  ],
+  'actions': [
+    {'table': 1, 'id': 'undo', 'name': 'Undo', 'context': 1, 'category': 'Edit',
+     'momentary': false, 'accelerators': ['Ctrl+Z', 'Num+5']},
+    {'table': 1, 'id': 'orbit', 'name': 'Orbit', 'context': 3, 'category': 'View',
+     'momentary': true},
+    {'table': 4294967295, 'id': 'undo', 'name': '', 'context': 3, 'category': ''}
+  ]
+})");
+
 } // namespace
 
 class SampleHostTest : public QObject
@@ -46,15 +69,13 @@ private Q_SLOTS:
     void init();
     void cleanup() { CUI::QvelMessageLog::getInstance().disconnect(this); }
     void installsWhatTheShippedDirectoryHolds();
-    void leavesAnotherHostInstalled();
-    void installsNothingWithoutItsDefaultSet();
-    void startsWithTheDefaultSetAndLeavesNoTrace();
     void theCurrentSetSurvivesARestart();
     void aSetThatIsGoneGivesWayUntilItIsBack();
-    void inMemoryTheRecordStaysAsItWas();
     void warnsOfARecordThatCannotBeRead();
-    void warnsOfARecordThatCannotBeWritten();
     void aFullDiskKeepsTheOldRecord();
+    void readsEverySpellingOfAnAccelerator();
+    void refusesWhatIsWrong_data();
+    void refusesWhatIsWrong();
 
 private:
     QString path(const char *name) const { return m_folder->filePath(s(name)); }
@@ -120,43 +141,6 @@ void SampleHostTest::installsWhatTheShippedDirectoryHolds()
     QVERIFY(CUI::IPathManager::get() == nullptr);
 }
 
-void SampleHostTest::leavesAnotherHostInstalled()
-{
-    auto first = start();
-    const auto second = start();
-    first.reset();
-    QCOMPARE(CUI::ICuiActionManager::get(), second->registry());
-    QCOMPARE(CUI::IPathManager::get(), second->paths());
-
-    std::vector<std::pair<CUI::ActionIdentifier, QString>> accelerators;
-    second->registry()->getDefaultAccelerators(nullptr, accelerators);
-    QStringList inOrder;
-    for (const auto &[identifier, hotkey] : accelerators)
-        inOrder << identifier.toString() + QLatin1Char(' ') + hotkey;
-    QCOMPARE(inOrder, list("2-undo Ctrl+Z|2-undo Alt+Backspace|1-cut Ctrl+X"));
-}
-
-void SampleHostTest::installsNothingWithoutItsDefaultSet()
-{
-    QVERIFY(QFile::remove(m_defaultSet));
-    SampleHost host(path("host"), path("user"));
-    QVERIFY(!host.load());
-    QCOMPARE(host.errorText(),
-             s("%1: defaultSet: there is no file %2").arg(path("host/host.json"), m_defaultSet));
-    QVERIFY(CUI::ICuiActionManager::get() == nullptr);
-    QVERIFY(CUI::IPathManager::get() == nullptr);
-}
-
-void SampleHostTest::startsWithTheDefaultSetAndLeavesNoTrace()
-{
-    const auto host = start();
-    CUI::QvelShortcutManager store;
-    store.loadCurrentShortcutConfiguration();
-    QCOMPARE(store.getShortcutsFromActionId({1, s("cut")}), s("Ctrl+X"));
-    QCOMPARE(currentSet(), m_defaultSet);
-    QVERIFY(!QFile::exists(path("user")));
-}
-
 void SampleHostTest::theCurrentSetSurvivesARestart()
 {
     auto host = start();
@@ -183,15 +167,6 @@ void SampleHostTest::aSetThatIsGoneGivesWayUntilItIsBack()
     QCOMPARE(currentSet(), m_mine);
 }
 
-void SampleHostTest::inMemoryTheRecordStaysAsItWas()
-{
-    SampleHost host(path("host"), path("user"), Host::HostPathManager::Record::InMemory);
-    QVERIFY(host.load());
-    setCurrentSet(m_mine);
-    QCOMPARE(currentSet(), m_mine);
-    QVERIFY(!QFile::exists(path("user")));
-}
-
 void SampleHostTest::warnsOfARecordThatCannotBeRead()
 {
     const QString record = write("user/current.json", "{\"hotkeySet\": \"/x");
@@ -199,19 +174,6 @@ void SampleHostTest::warnsOfARecordThatCannotBeRead()
     QCOMPARE(currentSet(), m_defaultSet);
     QCOMPARE(m_logged.size(), 1);
     QVERIFY2(m_logged.constFirst().contains(record), qPrintable(m_logged.constFirst()));
-}
-
-void SampleHostTest::warnsOfARecordThatCannotBeWritten()
-{
-    const QString user = write("user", "a file"); // not even root makes a directory below it
-    const auto host = start();
-    setCurrentSet(m_mine);
-    QCOMPARE(currentSet(), m_mine);
-    QCOMPARE(m_logged.size(), 1);
-    QVERIFY2(m_logged.constFirst().startsWith(s("Warning: The current set is not recorded: "))
-                     && m_logged.constFirst().contains(user),
-             qPrintable(m_logged.constFirst()));
-    QVERIFY(!host->paths()->createUserDirectory());
 }
 
 void SampleHostTest::aFullDiskKeepsTheOldRecord()
@@ -225,6 +187,54 @@ void SampleHostTest::aFullDiskKeepsTheOldRecord()
     }
     host = start();
     QCOMPARE(currentSet(), m_mine);
+}
+
+void SampleHostTest::readsEverySpellingOfAnAccelerator()
+{
+    const QByteArray spellings = json("'shift+Insert', 'Shift+s', 'ctrl+alt+1', 'Ctrl+Shift+', "
+                                      "'Crtl+5', '', 'A, B'");
+    QString error;
+    const auto catalogue = HostCatalogue::parse(
+            QByteArray(sample).replace(json("'Ctrl+Z', 'Num+5'"), spellings), s("f"), error);
+    QVERIFY2(catalogue, qPrintable(error));
+    QCOMPARE(catalogue->actions[0].accelerators, list("Shift+Ins|Shift+S|Ctrl+Alt+1"));
+    QCOMPARE(catalogue->warnings.size(), 4);
+    QCOMPARE(catalogue->warnings[1], s("f: actions[0].accelerators[4]: 'Crtl+5' names a key that "
+                                       "does not exist; it is left out"));
+}
+
+void SampleHostTest::refusesWhatIsWrong_data()
+{
+    QTest::addColumn<QByteArray>("part");
+    QTest::addColumn<QByteArray>("replacement");
+    QTest::addColumn<QString>("error");
+
+    const auto row = [](const QByteArray &part, const char *replacement, const char *error) {
+        QTest::newRow(error) << json(part) << json(replacement) << s("host.json:%1").arg(s(error));
+    };
+    row("'Mine.hsx',", "'Mine.hsx'", "3:4: unterminated object");
+    row("Mine.hsx", "../Mine.hsx", " defaultSet: is not a file name without a folder");
+    row("'actions':", "'acts':", " acts: is not known here");
+    row("'id': 1, 'name'", "'id': 3, 'name'", " contexts[1].id: an earlier context has this id");
+    row("4294967295", "4294967296",
+        " actions[2].table: is not a whole number from 0 to 4294967295");
+    row("'orbit'", "'undo'", " actions[1].id: an earlier action is 1-undo already");
+    row("'momentary': true", "'momentery': true", " actions[1].momentery: is not known here");
+    row("['Ctrl+Z', 'Num+5']", "'Ctrl+Z'", " actions[0].accelerators: is not an array");
+    row("'actions':", "'together': [[3, 9]], 'actions':",
+        " together[0][1]: is not the id of a context");
+}
+
+void SampleHostTest::refusesWhatIsWrong()
+{
+    QFETCH(QByteArray, part);
+    QFETCH(QByteArray, replacement);
+
+    QCOMPARE(sample.count(part), 1);
+    QString found;
+    QVERIFY(!HostCatalogue::parse(QByteArray(sample).replace(part, replacement), s("host.json"),
+                                  found));
+    QTEST(found, "error");
 }
 
 QTEST_GUILESS_MAIN(SampleHostTest)

@@ -1,4 +1,3 @@
-#include "OneTextTranslator.h"
 #include "SampleHost.h"
 #include "ToolHost.h"
 
@@ -6,11 +5,13 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
+#include <QSet>
 #include <QtTest>
 
 #include <sys/stat.h>
 
-/// The commands that choose among sets and compare them: sets, use and diff, and sets by name.
+/// The commands that choose among sets, compare, convert and show them.
 class HotkeyCtlSetsTest : public QObject
 {
     Q_OBJECT
@@ -18,18 +19,20 @@ class HotkeyCtlSetsTest : public QObject
 private Q_SLOTS:
     void init();
     void listsTheSets();
-    void tellsOfACurrentSetThatIsNotListed();
     void usesASet_data();
     void usesASet();
-    void recordsTheDefaultSetWhenItIsChosen();
     void refusesWhatIsNoSet_data();
     void refusesWhatIsNoSet();
-    void saysWhenTheChoiceCannotBeRecorded();
-    void prefersAFileOfTheName();
-    void knowsANameBeforeAndAfterTranslation();
     void compares_data();
     void compares();
-    void comparesAsTheListsDo();
+    void convertsIntoTheUsersSets();
+    void replacesOnlyWhenForced();
+    void refusesWhatCannotBeConverted_data();
+    void refusesWhatCannotBeConverted();
+    void bringsAlongWhatTheUserHadChanged_data();
+    void bringsAlongWhatTheUserHadChanged();
+    void showsFilesWithoutAHost_data();
+    void showsFilesWithoutAHost();
 
 private:
     QString path(const char *name) const { return m_host->path(name); }
@@ -43,6 +46,31 @@ QByteArray described(const QByteArray &description, const QByteArray &steps)
 {
     return "<VelHotkeyTransformations Description=\"" + description + "\">" + steps
            + "</VelHotkeyTransformations>";
+}
+
+using Hotkeys = QMap<QString, QSet<QString>>;
+
+QByteArray keyboard(const QByteArray &shortcuts)
+{
+    return "<VLSK_KBD>" + shortcuts + "</VLSK_KBD>";
+}
+
+QByteArray shortcut(char letter, const char *action) // with Ctrl
+{
+    return "<shortcut fVirt='11' accleleratorKey='" + QByteArray::number(letter) + "' actionID='"
+           + action + "' actionTableID='1'/>";
+}
+
+/// Ctrl+K added to Plain, Ctrl+L to Full, and Ctrl+X taken from Cut.
+const QByteArray userFile =
+        keyboard(shortcut('C', "copy") + shortcut('K', "plain") + shortcut('L', "full"));
+
+const char *const defaultFile = "host/legacy/LegacyDefaultUI-2019.kbdx";
+
+QSet<QString> setOf(const QJsonValue &array)
+{
+    const QStringList texts = array.toVariant().toStringList();
+    return {texts.begin(), texts.end()};
 }
 
 } // namespace
@@ -63,6 +91,8 @@ void HotkeyCtlSetsTest::init()
     QVERIFY(QFile::link(path("nowhere"), path("user/nowhere.hsx")));
     QVERIFY(QFile::link(path("user/self.hsx"), path("user/self.hsx")));
     QCOMPARE(mkfifo(QFile::encodeName(path("user/pipe.hsx")).constData(), 0600), 0);
+    m_host->write(defaultFile, keyboard(shortcut('C', "copy") + shortcut('X', "cut")));
+    m_host->write("My.Old Keys.kbdx", userFile);
 }
 
 void HotkeyCtlSetsTest::listsTheSets()
@@ -87,22 +117,7 @@ void HotkeyCtlSetsTest::listsTheSets()
     QCOMPARE(json.value(1), m_host->text("  {\"name\": \"Default\", \"locked\": true, "
                                          "\"shipped\": true, \"current\": true, \"writable\": false"
                                          ", \"path\": \"@/host/presets/Default.hsx\"},"));
-    QCOMPARE(json.value(5), m_host->text("  {\"name\": \"line\\nbreak\", \"locked\": true, "
-                                         "\"shipped\": false, \"current\": false, \"writable\": "
-                                         "false, \"path\": \"@/user/line\\nbreak.hsx\"},"));
     QCOMPARE(json.size(), 8);
-    QCOMPARE(json.filter(s("\"writable\": true")).size(), 3);
-}
-
-void HotkeyCtlSetsTest::tellsOfACurrentSetThatIsNotListed()
-{
-    QCOMPARE(m_host->run("use @/elsewhere/d.hsx").code, 0);
-    QCOMPARE(m_host->run("sets").lines().last(),
-             m_host->text("The current set is not among them: @/elsewhere/d.hsx"));
-    // A detour to a listed file is not another set.
-    QVERIFY(QFile::link(path("user"), path("detour")));
-    QCOMPARE(m_host->run("use @/detour/a.hsx").code, 0);
-    QVERIFY(m_host->run("sets --format json").json().at(1).toObject()[s("current")].toBool());
 }
 
 void HotkeyCtlSetsTest::usesASet_data()
@@ -110,12 +125,9 @@ void HotkeyCtlSetsTest::usesASet_data()
     QTest::addColumn<QString>("file");
     const auto row = [](const char *set, const char *file) { QTest::newRow(set) << file; };
     row("Mine", "user/a.hsx");
-    row("Default", "host/presets/Default.hsx");
     row("鍵", "user/鍵.hsx");
     row("\"line\nbreak\"", "user/line\nbreak.hsx");
-    row("line\\nbreak", "user/line\nbreak.hsx"); // as it is printed
     row("@/user/c.hsx", "user/c.hsx");
-    row("@/user/../elsewhere/d.hsx", "elsewhere/d.hsx");
 }
 
 void HotkeyCtlSetsTest::usesASet()
@@ -131,16 +143,6 @@ void HotkeyCtlSetsTest::usesASet()
              m_host->path(file));
 }
 
-void HotkeyCtlSetsTest::recordsTheDefaultSetWhenItIsChosen()
-{
-    m_host->writeSet("away.hsx", "");
-    QCOMPARE(m_host->run("use @/away.hsx").code, 0);
-    QVERIFY(QFile::remove(path("away.hsx"))); // the default is what is in use now
-    QCOMPARE(m_host->run("use Default").code, 0);
-    m_host->writeSet("away.hsx", "");
-    QCOMPARE(m_host->run("owner F12").done(), s("Editing: Cut (1-cut)\n"));
-}
-
 void HotkeyCtlSetsTest::refusesWhatIsNoSet_data()
 {
     QTest::addColumn<QString>("error");
@@ -151,10 +153,8 @@ void HotkeyCtlSetsTest::refusesWhatIsNoSet_data()
                 "Twin, Twin, line\\nbreak, 鍵");
     row("Broken", "there is neither a file nor a hotkey set 'Broken'");
     row("@/user/broken.hsx", "@/user/broken.hsx: not valid: ");
-    row("@/user/folder.hsx", "@/user/folder.hsx: is not a regular file");
     row("@/user/pipe.hsx", "@/user/pipe.hsx: is not a regular file");
     row("@/user/nowhere.hsx", "@/user/nowhere.hsx: is a link that leads nowhere");
-    row("@/user/self.hsx", "@/user/self.hsx: is a link that leads nowhere");
 }
 
 void HotkeyCtlSetsTest::refusesWhatIsNoSet()
@@ -173,47 +173,13 @@ void HotkeyCtlSetsTest::refusesWhatIsNoSet()
     }
 }
 
-void HotkeyCtlSetsTest::saysWhenTheChoiceCannotBeRecorded()
-{
-    m_host->write("file", "");
-    const QString error = s("hotkeyctl: the current set cannot be ");
-    for (const char *line :
-         {"--user @/file use @/host/presets/Default.hsx", "--user @/file use @/user/a.hsx"})
-        QCOMPARE(m_host->run(line).refusal().left(error.size()), error);
-}
-
-void HotkeyCtlSetsTest::prefersAFileOfTheName()
-{
-    const QString plain = s("Editing: Plain (1-plain)\n");
-    QCOMPARE(m_host->run("--set Mine owner F9").done(), plain);
-    m_host->write("Mine", ToolHost::read(path("elsewhere/d.hsx")));
-    const QString before = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(path("")));
-    const Outcome outcome = m_host->run("--set Mine owner F11");
-    QVERIFY(QDir::setCurrent(before));
-    QCOMPARE(outcome.done(), plain);
-}
-
-void HotkeyCtlSetsTest::knowsANameBeforeAndAfterTranslation()
-{
-    OneTextTranslator translator("CUI", "鍵", "Key"); // as the names of shipped sets
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    QVERIFY(m_host->run("sets").lines().value(6).startsWith(s("Key ")));
-    QCOMPARE(m_host->run("use Key").code, 0);
-    QCOMPARE(m_host->run("use 鍵").code, 0);
-}
-
 void HotkeyCtlSetsTest::compares_data()
 {
     QTest::addColumn<QString>("out");
     const auto row = [](const char *line, const char *out) { QTest::newRow(line) << out; };
-    row("diff @/user/a.hsx base", "CONTEXT  ACTION  ID       Mine  base\n"
-                                  "Editing  Plain   1-plain  F9    none\n");
     row("diff Default Mine", "CONTEXT  ACTION  ID       Default  Mine\n"
                              "Editing  Cut     1-cut    F12      Ctrl+X\n"
                              "Editing  Plain   1-plain  none     F9\n");
-    row("diff base base", "no differences\n");
-    row("diff Mine Mine", "no differences\n");
     row("diff base Reordered", "no differences\n");
     row("diff base Displacing", "CONTEXT  ACTION  ID       base              Displacing\n"
                                 "Editing  Copy    1-copy   Ctrl+C, Ctrl+Ins  Ctrl+Ins\n"
@@ -222,7 +188,6 @@ void HotkeyCtlSetsTest::compares_data()
     row("diff base Mine --format json",
         "[\n  {\"contextId\": 1, \"context\": \"Editing\", \"category\": \"Edit\", \"action\": "
         "\"Plain\", \"id\": \"1-plain\", \"a\": [], \"b\": [\"F9\"]}\n]\n");
-    row("diff Mine Mine --format json", "[]\n");
 }
 
 void HotkeyCtlSetsTest::compares()
@@ -238,32 +203,134 @@ void HotkeyCtlSetsTest::compares()
 }
 
 // The hotkeys under each of two sets are also what listing shows with the one and the other.
-void HotkeyCtlSetsTest::comparesAsTheListsDo()
+
+void HotkeyCtlSetsTest::convertsIntoTheUsersSets()
 {
-    const auto json = [this](const char *line) {
-        return ToolHost::runBare(m_host->arguments(s("--user @/user ") + s(line))).json();
+    QCOMPARE(m_host->run("convert \"@/My.Old Keys.kbdx\"").done(),
+             m_host->text("Saved as @/user/My.Old Keys.hsx.\nHotkeys assigned: 2, removed: 1.\n"));
+    QVERIFY(!m_host->exists("user/current.json"));
+    QCOMPARE(m_host->run("--set \"My.Old Keys\" list --changed").lines().size(),
+             3); // Full has no room for another hotkey
+    // The set has no texts of its own for the actions.
+    QCOMPARE(m_host->run("--set \"My.Old Keys\" steps").done(),
+             s("Add 'Ctrl+K' to Plain (1-plain).\nRemove 'Ctrl+X' from Cut (1-cut).\n"));
+}
+
+void HotkeyCtlSetsTest::replacesOnlyWhenForced()
+{
+    const QString set = m_host->writeSet("old.hsx", "");
+    const QByteArray before = ToolHost::read(set);
+    const QString convert = s("convert \"@/My.Old Keys.kbdx\" @/old.hsx");
+    QCOMPARE(m_host->run(convert).refusal(),
+             s("hotkeyctl: %1: is not written, because it is there already; --force replaces it\n")
+                     .arg(set));
+    QCOMPARE(ToolHost::read(set), before);
+    QCOMPARE(m_host->run(convert + s(" --force")).code, 0);
+    QVERIFY(ToolHost::read(set).contains("Ctrl+K"));
+    QVERIFY(!m_host->exists("user/My.Old Keys.hsx"));
+}
+
+void HotkeyCtlSetsTest::refusesWhatCannotBeConverted_data()
+{
+    QTest::addColumn<QString>("error");
+    const auto row = [](const char *file, const char *error) { QTest::newRow(file) << error; };
+    row("missing.kbdx", "cannot be opened: ");
+    row("pipe.kbdx", "cannot be opened: Is not a regular file");
+    row("half.kbdx", "not valid: ");
+    row("root.kbdx", "cannot be converted: Could not parse legacy hotkey configuration");
+    row("My.Old Keys.kbdx", "cannot be converted: Could not open"); // without the defaults
+}
+
+void HotkeyCtlSetsTest::refusesWhatCannotBeConverted()
+{
+    QFETCH(QString, error);
+    m_host->write("half.kbdx", "<VLSK_KBD><shortcut");
+    m_host->write("root.kbdx", "<shortcut/>");
+    QCOMPARE(mkfifo(QFile::encodeName(m_host->path("pipe.kbdx")).constData(), 0600), 0);
+    QVERIFY(QFile::remove(m_host->path(defaultFile)));
+
+    const QString file = m_host->path(QTest::currentDataTag());
+    error = s("hotkeyctl: %1: %2").arg(file, error);
+    QCOMPARE(m_host->run(s("convert \"%1\"").arg(file)).refusal().left(error.size()), error);
+    QVERIFY(!m_host->exists("user/My.Old Keys.hsx"));
+}
+
+void HotkeyCtlSetsTest::bringsAlongWhatTheUserHadChanged_data()
+{
+    QTest::addColumn<QString>("user");
+    QTest::newRow("artist") << "legacy-user-artist";
+    QTest::newRow("animator") << "legacy-user-animator";
+}
+
+// Wherever today's base is what the old release had, the user has what the user had, and that is
+// what counts as changed.
+void HotkeyCtlSetsTest::bringsAlongWhatTheUserHadChanged()
+{
+    QFETCH(QString, user);
+    const auto run = [this](const QString &line) {
+        return ToolHost::runBare(m_host->arguments(s("--user @/user ") + line));
     };
-    const auto sorted = [](const QJsonValue &hotkeys) {
-        QStringList texts = hotkeys.toVariant().toStringList();
-        texts.sort();
-        return texts;
+    const auto hotkeysIn = [&run](const QString &file) {
+        Hotkeys hotkeys;
+        const QRegularExpression line(s("^Add '(.*)' to (.*)\\.$"));
+        for (const QString &text : run(s("show ") + file).lines().mid(1)) {
+            const QRegularExpressionMatch match = line.match(text);
+            hotkeys[match.captured(2)] << match.captured(1);
+        }
+        return hotkeys;
     };
-    const QJsonArray listOfA = json("--set \"Velstudio Default Keyset\" list --format json");
-    const QJsonArray listOfB = json("--set \"Zarvi Default Keyset\" list --format json");
-    QCOMPARE(listOfA.size(), listOfB.size());
-    QJsonArray expected;
-    for (int i = 0; i < listOfA.size(); ++i) {
-        QJsonObject row = listOfA.at(i).toObject();
-        row[s("a")] = row.take(s("hotkeys"));
-        row[s("b")] = listOfB.at(i).toObject()[s("hotkeys")];
-        row.remove(s("baseHotkeys"));
-        row.remove(s("changed"));
-        if (sorted(row[s("a")]) != sorted(row[s("b")]))
-            expected.append(row);
+    const QString file = s(CUI_TEST_DATA_DIR "/valid/%1.kbdx").arg(user);
+    const Hotkeys had = hotkeysIn(file);
+    const Hotkeys defaults = hotkeysIn(Host::SampleHost::shippedDirectory()
+                                       + s("/legacy/LegacyDefaultUI-2019.kbdx"));
+    QCOMPARE(run(s("convert ") + file).code, 0);
+    QCOMPARE(run(s("use ") + user).code, 0);
+
+    int unchangedCount = 0;
+    int changedCount = 0;
+    for (const QJsonValue &value : run(s("list --format json")).json()) {
+        const QJsonObject row = value.toObject();
+        const QString id = row[s("id")].toString();
+        if (setOf(row[s("baseHotkeys")]) != defaults.value(id))
+            continue;
+        const bool isChanged = row[s("changed")].toBool();
+        QCOMPARE(setOf(row[s("hotkeys")]), had.value(id));
+        QCOMPARE(isChanged, had.value(id) != defaults.value(id));
+        ++(isChanged ? changedCount : unchangedCount);
     }
-    QVERIFY(expected.size() > 100 && expected.size() < listOfA.size());
-    QCOMPARE(json("diff \"Velstudio Default Keyset\" \"Zarvi Default Keyset\" --format json"),
-             expected);
+    QVERIFY(changedCount >= 4 && unchangedCount > 250);
+}
+
+void HotkeyCtlSetsTest::showsFilesWithoutAHost_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<QString>("out"); // empty for a refusal
+
+    const auto row = [](const char *name, const QByteArray &contents, const char *out) {
+        QTest::newRow(name) << contents << out;
+    };
+    row("set.hsx",
+        "<VelHotkeyTransformations Locked='true' Description='One&#10;line'>"
+        "<Unassign_Hotkey Shortcut='Ctrl+X' Description='Cut&#9;it' Id='1-cut'/>"
+        "<Assign_Hotkey Shortcut='Ctrl+X' Description=' ' Id='9-鍵'/></VelHotkeyTransformations>",
+        "Hotkey set 'One\\nline', locked, steps: 2\n"
+        "Remove 'Ctrl+X' from Cut\\tit.\nAdd 'Ctrl+X' to 9-鍵.\n");
+    row("old.KBDX", userFile,
+        "Legacy keyboard file 'old.KBDX', steps: 3\nAdd 'Ctrl+C' to 1-copy.\n"
+        "Add 'Ctrl+K' to 1-plain.\nAdd 'Ctrl+L' to 1-full.\n");
+    row("other.hsx", userFile, "");
+    row("other.kbdx", "<shortcut/>", "");
+}
+
+void HotkeyCtlSetsTest::showsFilesWithoutAHost()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(QString, out);
+    const QString file = m_host->write(QTest::currentDataTag(), contents);
+    const Outcome outcome = m_host->run(s("--host @/nowhere show ") + file);
+    QCOMPARE(outcome.out, out);
+    QCOMPARE(outcome.code, out.isEmpty() ? 1 : 0);
+    QCOMPARE(outcome.err.isEmpty(), !out.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(HotkeyCtlSetsTest)
