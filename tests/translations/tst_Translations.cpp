@@ -1,4 +1,3 @@
-#include "TestHost.h"
 #include "Text.h"
 
 #include <QProcess>
@@ -142,11 +141,6 @@ private Q_SLOTS:
     void callHotkeysOneName();
     void includeEnglishForTextsThatAreThere();
 
-    // The checks themselves
-    void formFaultsAreFound_data();
-    void formFaultsAreFound();
-    void newAndVanishedTextsAreFound();
-
 private:
     static void addLanguages();
     /// The texts of the language, after an update from the sources.
@@ -224,56 +218,6 @@ void TestTranslations::includeEnglishForTextsThatAreThere()
         QVERIFY2(complaintAbout(text).isEmpty(), qPrintable(text.key()));
         QVERIFY2(!text.translation.contains(s("...")), qPrintable(text.key()));
     }
-}
-
-void TestTranslations::formFaultsAreFound_data()
-{
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("translation");
-    QTest::addColumn<QString>("complaint");
-    const auto row = [](const char *source, const char *translation, const char *complaint) {
-        QTest::addRow("%s -> %s", source, translation)
-                << s(source) << s(translation) << s(complaint);
-    };
-    row("%1 in %2", "%2 hat %1", "");
-    row("%1 in %2", "%1 hat %1", "has other placeholders");
-    row("%1 in %2", "hat %1", "has other placeholders");
-    row("Plain", "100 %1", "has other placeholders");
-    row("Save", "", "is not translated");
-    row("&Save", "Sp&eichern", "");
-    row("&Save", "Speichern", "has other mnemonic");
-    row("Save", "&Speichern", "has other mnemonic");
-    row("Save && close", "Speichern && beenden", "");
-    row("&Save", "Speichern && beenden", "has other mnemonic");
-    row("One.\n\nTwo.\n", "Eins.\n\nZwei.\n", "");
-    row("One.\n\nTwo.\n", "Eins.\nZwei.\n", "has other line breaks");
-    row("Set (*.%1)", "Satz (.%1)", "has other file pattern");
-    row("Zarvi Set", "Sarvi-Satz", "has other product");
-    row("Save As...", "Speichern unter...", "");
-    row("Search... action", "Suche... Aktion", "has an ellipsis");
-}
-
-void TestTranslations::formFaultsAreFound()
-{
-    QFETCH(QString, source);
-    QFETCH(QString, translation);
-    QTEST(complaintAbout({QString(), source, translation, QString()}), "complaint");
-}
-
-void TestTranslations::newAndVanishedTextsAreFound()
-{
-    TestHost host;
-    host.write(s("box.cpp"), "const char *text = QT_TRANSLATE_NOOP(\"Box\", \"New\");\n");
-    const QString file = host.write(
-            s("box.ts"),
-            "<!DOCTYPE TS><TS version='2.1' language='de'><context><name>Box</name><message>"
-            "<source>Gone</source><translation>Weg</translation></message></context></TS>");
-    QCOMPARE(updateTranslations(host.path(s(".")), {file}), QString());
-    QStringList found;
-    for (const TranslatedText &text : readTranslations(file))
-        found << text.source + QLatin1Char(' ') + complaintAbout(text);
-    found.sort();
-    QCOMPARE(found, list("Gone is vanished|New is unfinished"));
 }
 
 QTEST_GUILESS_MAIN(TestTranslations)
