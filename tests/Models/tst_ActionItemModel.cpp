@@ -66,7 +66,6 @@ class TestActionItemModel : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void showsAnActionInEveryCell();
     void reloadsAsOneReset();
     void worksWithoutStoreOrRegistry();
     void followsTheStore();
@@ -74,8 +73,6 @@ private Q_SLOTS:
     void findsItemsAmongMovedRows();
     void survivesAChangedRegistry_data();
     void survivesAChangedRegistry();
-    void findsNothingForWhatIsNotThere();
-    void findsHotkeysOfChangedCells();
     void invalidatesPastTheEnd();
 
 private:
@@ -124,24 +121,6 @@ void TestActionItemModel::cleanup()
     m_model.reset();
     m_store.reset();
     m_host.reset();
-}
-
-void TestActionItemModel::showsAnActionInEveryCell()
-{
-    QStringList headers;
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        headers << m_model->headerData(column, Qt::Horizontal).toString();
-    QCOMPARE(headers, list("Action|Hotkey|Group|Category"));
-    for (int row = 0; row < m_model->rowCount(); ++row) {
-        for (int column = 0; column < 4; ++column) {
-            const QModelIndex index = m_model->index(row, column);
-            const auto *cell = dynamic_cast<QvelActionItem *>(m_model->itemFromIndex(index));
-            QVERIFY(cell != nullptr && cell->velAction() != nullptr);
-            QCOMPARE(cell->velAction(), m_model->velActionFromModelIdx(index));
-            QCOMPARE(m_model->flags(index),
-                     m_model->QStandardItemModel::flags(index) & ~Qt::ItemIsEditable);
-        }
-    }
 }
 
 void TestActionItemModel::reloadsAsOneReset()
@@ -285,45 +264,6 @@ void TestActionItemModel::survivesAChangedRegistry()
     QCOMPARE(m_model->rowCount(), 3);
     QCOMPARE(item("duplicate")->text(), s("Duplicate"));
     QCOMPARE(proxy.rowCount(), 0); // now it is "Insert", of another context
-}
-
-void TestActionItemModel::findsNothingForWhatIsNotThere()
-{
-    QVERIFY(item("copy", 4) == nullptr);
-    QVERIFY(item("copy", -1) == nullptr);
-    QVERIFY(item("COPY") == nullptr);
-    QVERIFY(m_model->itemFromVelAction(0, {2, s("copy")}) == nullptr);
-    QVERIFY(holder("Ctrl+A, F2") == nullptr);
-    QVERIFY(holder("") == nullptr);
-
-    QSortFilterProxyModel proxy;
-    proxy.setSourceModel(m_model.get());
-    QVERIFY(m_model->velActionFromModelIdx(proxy.index(0, 0)) == nullptr);
-    QVERIFY(m_model->velActionFromModelIdx(QModelIndex()) == nullptr);
-    m_model->setItem(0, 0, new QStandardItem(s("plain")));
-    QVERIFY(m_model->velActionFromModelIdx(m_model->index(0, 0)) == nullptr);
-    delete m_model->takeItem(1, 0);
-    QVERIFY(m_model->velActionFromModelIdx(m_model->index(1, 0)) == nullptr);
-    QVERIFY(m_model->item(1, 0) == nullptr); // none was made by asking
-}
-
-void TestActionItemModel::findsHotkeysOfChangedCells()
-{
-    item("copy", 1)->setText(s("F5, f5"));
-    QVERIFY(holder("F2") == nullptr);
-    QCOMPARE(holder("F5")->name(), s("Copy"));
-
-    // Of several holders, the first row counts.
-    item("cut", 1)->setText(s("F5"));
-    const char *first = item("cut")->row() < item("copy")->row() ? "cut" : "copy";
-    QCOMPARE(holder("F5")->identifier(), id(first));
-    item(first, 1)->setText(QString());
-    QVERIFY(holder("F5")->identifier() != id(first));
-    {
-        const QSignalBlocker blocker(m_model.get());
-        assign("paste", "F7");
-    }
-    QCOMPARE(holder("F7")->name(), s("Paste"));
 }
 
 void TestActionItemModel::invalidatesPastTheEnd()

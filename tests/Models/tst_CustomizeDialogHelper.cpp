@@ -1,29 +1,18 @@
 #include "TestHost.h"
 #include "Text.h"
 
+#include <UiCustomizations/QvelActionItemModel.h>
 #include <UiCustomizations/QvelCustomizeDialogHelper.h>
+#include <UiCustomizations/QvelMenusWidget.h>
+#include <UiCustomizations/QvelShortcutManager.h>
 
 #include <QComboBox>
-#include <QTranslator>
+#include <QHeaderView>
+#include <QTreeView>
 #include <QtTest>
 
+using CUI::QvelActionItemModel;
 using namespace CUI::QvelCustomizeDialogHelper;
-
-namespace {
-
-/// Puts brackets around every text of the dialog.
-class DialogTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        return qstrcmp(context, "QvelCustomizeUiDialog") == 0 ? s("[%1]").arg(s(source))
-                                                              : QString();
-    }
-};
-
-} // namespace
 
 class TestCustomizeDialogHelper : public QObject
 {
@@ -33,8 +22,7 @@ private Q_SLOTS:
     void init();
     void listsContexts();
     void listsCategories();
-    void translatesAllButTheCategory();
-    void worksWithoutRegistry();
+    void showsAllButTheHotkeys();
 
 private:
     void addActions(unsigned long contextId, const char *categories);
@@ -110,27 +98,35 @@ void TestCustomizeDialogHelper::listsCategories()
     QCOMPARE(texts(), list("All Subgroups/Categories"));
 }
 
-void TestCustomizeDialogHelper::translatesAllButTheCategory()
+void TestCustomizeDialogHelper::showsAllButTheHotkeys()
 {
-    DialogTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    initializeContextList(m_box.get());
-    QCOMPARE(texts(), list("[All Groups]"));
-    initializeCategoryList(m_box.get());
-    QCOMPARE(texts(), list("All Subgroups/Categories"));
-    initializeHotkeyFilterList(m_box.get());
-    QCOMPARE(texts(), list("[All Actions]|[Assigned Hotkeys Only]|[Customized Hotkeys Only]|"
-                           "[Unsaved Hotkeys Only]"));
-}
+    m_host->registry()->addActionContext(1, s("Scene"));
+    for (const QString &name : list("b|<i>a</i>|c"))
+        m_host->registry()->addAction(1, name, name, 1, s("Edit"), false);
+    CUI::QvelShortcutManager store;
+    auto model = std::make_unique<QvelActionItemModel>(&store);
+    CUI::QvelMenusWidget widget(model.get());
+    auto *view = widget.findChild<QTreeView *>(s("menuActionsTreeView"));
+    QVERIFY(view->isColumnHidden(QvelActionItemModel::HotkeyColumn));
+    QCOMPARE(view->header()->count() - view->header()->hiddenSectionCount(), 3);
 
-void TestCustomizeDialogHelper::worksWithoutRegistry()
-{
-    std::unique_ptr<CUI::ICuiActionManager> none;
-    CUI::ICuiActionManager::set(none);
-    initializeContextList(m_box.get());
-    QCOMPARE(texts(), list("All Groups"));
-    updateCategoryList(m_box.get(), 1);
-    QCOMPARE(texts(), list("All Subgroups/Categories"));
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    const auto names = [&] {
+        QStringList texts;
+        for (int row = 0; row < model->rowCount(); ++row) {
+            const QRect place = view->visualRect(model->index(row, 0));
+            texts << view->indexAt(place.center()).data().toString();
+        }
+        return texts;
+    };
+    QCOMPARE(names(), list("c|b|<i>a</i>"));
+    const int x = view->header()->sectionViewportPosition(QvelActionItemModel::ActionColumn) + 20;
+    QTest::mouseClick(view->header()->viewport(), Qt::LeftButton, {}, QPoint(x, 5));
+    QCOMPARE(names(), list("<i>a</i>|b|c"));
+
+    model.reset(); // which the widget outlives
+    QVERIFY(!widget.grab().isNull());
 }
 
 QTEST_MAIN(TestCustomizeDialogHelper)

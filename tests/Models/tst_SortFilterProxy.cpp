@@ -7,8 +7,6 @@
 #include <UiCustomizations/QvelShortcutManager.h>
 #include <UiCustomizations/QvelSortFilterProxyModel.h>
 
-#include <QStringListModel>
-#include <QTranslator>
 #include <QtTest>
 
 #include <functional>
@@ -46,18 +44,6 @@ CUI::ActionIdentifier idOf(const char *name)
     return {1, s(name)};
 }
 
-/// A language in which one key has another name.
-class Translator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        const bool isDelete = qstrcmp(context, "QShortcut") == 0 && qstrcmp(text, "Del") == 0;
-        return isDelete ? s("Zap") : QString();
-    }
-};
-
 } // namespace
 
 /// What the proxy does besides listing the right rows in the right order, which the random test
@@ -71,17 +57,9 @@ private Q_SLOTS:
     void cleanup();
     void searches_data();
     void searches();
-    void searchesQuietlyForHalfAPair();
     void filtersByHotkeyState();
     void answersItsSubclasses();
     void announcesEachChange();
-    void listsOnlyActionItems();
-    void worksWithoutStore();
-    void sortsAnewWhenAsked();
-    void followsSortSettings();
-    void followsTheLanguage();
-    void comparesCellsOfAnySource();
-    void readsChangedRows();
 
 private:
     void show(const std::vector<Action> &actions);
@@ -184,20 +162,6 @@ void TestSortFilterProxy::searches()
     QTEST(found, "found");
 }
 
-void TestSortFilterProxy::searchesQuietlyForHalfAPair()
-{
-    static int warnings;
-    warnings = 0;
-    show({{"a", "A"}, {"b", "B"}});
-    const auto handler = qInstallMessageHandler(
-            [](QtMsgType, const QMessageLogContext &, const QString &) { ++warnings; });
-    m_proxy->updateFilterString(QString(QChar(0xd83d)));
-    const QStringList listed = names();
-    qInstallMessageHandler(handler);
-    QCOMPARE(listed, QStringList());
-    QCOMPARE(warnings, 0);
-}
-
 void TestSortFilterProxy::filtersByHotkeyState()
 {
     show({{"bare"}, {"gained", "E"}, {"lost all", "D"}, {"lost one", "B|C"}, {"respelt", "A"}});
@@ -280,132 +244,6 @@ void TestSortFilterProxy::announcesEachChange()
     m_proxy->setFilterKeyColumn(Model::HotkeyColumn);
     QCOMPARE(search("A"), list("layout")); // a search by hotkey announces the layout only
     QCOMPARE(search(""), both);
-}
-
-void TestSortFilterProxy::listsOnlyActionItems()
-{
-    show({{"a"}});
-    QStandardItemModel plain;
-    CUI::VelAction *action = m_host->registry()->getAction(idOf("a"));
-    plain.appendRow({new QStandardItem(s("x")), new QStandardItem(s("F1"))});
-    plain.appendRow({new QStandardItem(s("x")), new QvelActionItem(s("F1"), nullptr)});
-    plain.appendRow({new QStandardItem(s("x")), new QvelActionItem(s("F1"), action)});
-    plain.appendRow(new QStandardItem(s("x")));
-    m_proxy->setSourceModel(&plain);
-    QCOMPARE(m_proxy->rowCount(), 1);
-    plain.setItem(0, 1, new QvelActionItem(s("F1"), action));
-    QCOMPARE(m_proxy->rowCount(), 2);
-
-    QStringListModel strings(list("a|b"));
-    m_proxy->setSourceModel(&strings);
-    QCOMPARE(m_proxy->rowCount(), 0);
-    m_proxy->setSourceModel(nullptr);
-    QCOMPARE(m_proxy->rowCount(), 0);
-}
-
-void TestSortFilterProxy::worksWithoutStore()
-{
-    show({{"a", "F1"}, {"b"}});
-    m_store->applyTransforms();
-    Proxy proxy(nullptr);
-    proxy.setSourceModel(m_model.get());
-    proxy.setSelectedHotkeyFilter(Proxy::CustomizedHotkeysOnly);
-    QCOMPARE(proxy.rowCount(), 1); // nothing is a base hotkey
-    proxy.setSelectedHotkeyFilter(Proxy::UnsavedHotkeysOnly);
-    QCOMPARE(proxy.rowCount(), 0);
-    m_store.reset();
-    m_proxy->setSelectedHotkeyFilter(Proxy::UnsavedHotkeysOnly);
-    QCOMPARE(m_proxy->rowCount(), 0);
-}
-
-void TestSortFilterProxy::sortsAnewWhenAsked()
-{
-    show({{"Add box"}, {"Box"}, {"A boxer"}, {"Unbox box"}, {"boxes"}});
-    m_proxy->sort(Model::ActionColumn);
-    m_proxy->updateFilterString(s("box"));
-    for (const bool isRanking : {false, true}) {
-        m_proxy->setActionSearchSorting(isRanking);
-        QCOMPARE(names(), list("A boxer|Add box|Box|boxes|Unbox box"));
-    }
-    m_proxy->invalidate();
-    QCOMPARE(names(), list("Box|boxes|Add box|Unbox box|A boxer"));
-}
-
-void TestSortFilterProxy::followsSortSettings()
-{
-    show({{"a"}, {"B"}, {"c"}});
-    m_proxy->sort(Model::ActionColumn);
-    m_proxy->setSortLocaleAware(true);
-    QCOMPARE(m_proxy->lessThan(cell("a", 0), cell("B", 0)), s("a").localeAwareCompare(s("B")) < 0);
-
-    // By another role, and by values that are no texts.
-    m_proxy->setSortRole(Qt::UserRole);
-    m_model->setData(cell("c", 0), 1, Qt::UserRole);
-    m_model->setData(cell("a", 0), 2, Qt::UserRole);
-    m_model->setData(cell("B", 0), 10, Qt::UserRole);
-    QCOMPARE(names(), list("c|a|B"));
-    m_proxy->setSortRole(Qt::DisplayRole);
-    m_model->setData(cell("a", 0), 10);
-    m_model->setData(cell("B", 0), 9);
-    QVERIFY(m_proxy->lessThan(cell("B", 0), cell("a", 0)));
-}
-
-void TestSortFilterProxy::followsTheLanguage()
-{
-    show({{"delete", "Del"}, {"home", "Home"}, {"insert", "Ins"}});
-    m_proxy->sort(Model::HotkeyColumn);
-    Translator translator;
-    QCoreApplication::installTranslator(&translator);
-    QCOMPARE(names(), list("delete|home|insert")); // until it is sorted again
-    m_proxy->invalidate();
-    QCOMPARE(names(), list("home|insert|delete"));
-    QCoreApplication::removeTranslator(&translator);
-    m_proxy->invalidate();
-    QCOMPARE(names(), list("delete|home|insert"));
-}
-
-void TestSortFilterProxy::comparesCellsOfAnySource()
-{
-    show({{"a"}, {"B"}});
-    QVERIFY(!m_proxy->lessThan(QModelIndex(), QModelIndex()));
-    QStandardItem *parent = m_model->itemFromVelAction(0, idOf("a"));
-    for (const char *name : {"y", "X"})
-        parent->appendRow(new QStandardItem(s(name)));
-    const QModelIndex y = parent->child(0)->index();
-    const QModelIndex x = parent->child(1)->index();
-    QVERIFY(m_proxy->lessThan(x, y) && !m_proxy->lessThan(y, x));
-    QVERIFY(m_proxy->lessThan(cell("a", 0), cell("B", 0)));
-
-    QStringListModel strings(list("b|A|A"));
-    m_proxy->setSourceModel(&strings);
-    QVERIFY(m_proxy->lessThan(strings.index(1), strings.index(0)));
-    QModelIndex left = strings.index(1);
-    QModelIndex right = strings.index(2);
-    QVERIFY(!m_proxy->lessThan(left, right) && !m_proxy->lessThan(right, left));
-    m_proxy->switchIndexOnEqualString(left, right, {Model::GroupColumn}); // there is none
-    QVERIFY(left == strings.index(1) && right == strings.index(2));
-    strings.setData(strings.index(1), s("c"));
-    QVERIFY(!m_proxy->lessThan(strings.index(1), strings.index(0)));
-}
-
-void TestSortFilterProxy::readsChangedRows()
-{
-    show({{"a", "F1"}, {"b"}, {"c", "F3"}});
-    m_proxy->sort(Model::HotkeyColumn);
-    m_proxy->setSelectedHotkeyFilter(Proxy::AssignedHotkeysOnly);
-    m_store->assignShortcut(idOf("b"), s("F2"), QString());
-    QCOMPARE(names(), list("a|b|c")); // the proxy follows by itself
-    m_store->unassignShortcut(idOf("a"), s("F1"), QString());
-    QCOMPARE(names(), list("b|c"));
-
-    m_host->registry()->addAction(idOf("b"), s("b"), 6, s("Other"), false);
-    m_model->loadActionsToModel();
-    m_proxy->setFilterSelectedContext(6);
-    QCOMPARE(names(), list("b"));
-    m_model->removeRow(cell("b", 0).row());
-    QCOMPARE(names(), QStringList());
-    m_model.reset();
-    QCOMPARE(m_proxy->rowCount(), 0);
 }
 
 QTEST_MAIN(TestSortFilterProxy)
