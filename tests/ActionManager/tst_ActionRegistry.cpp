@@ -12,22 +12,6 @@ namespace {
 const ActionIdentifier undo{1, s("undo")};
 const ActionIdentifier redo{1, s("redo")};
 
-/// Tells when it is destroyed.
-class MortalRegistry : public TestRegistry
-{
-public:
-    explicit MortalRegistry(bool *alive) : m_alive(alive) { *m_alive = true; }
-    ~MortalRegistry() override
-    {
-        *m_alive = false;
-        foundAtDeath = ICuiActionManager::get();
-    }
-    static inline ICuiActionManager *foundAtDeath = nullptr;
-
-private:
-    bool *m_alive;
-};
-
 } // namespace
 
 class TestActionRegistry : public QObject
@@ -36,10 +20,10 @@ class TestActionRegistry : public QObject
 
 private Q_SLOTS:
     void init();
-    void installs();
+    void parsesTextForm_data();
+    void parsesTextForm();
     void replacesDuplicates();
     void renames();
-    void removes();
 
 private:
     TestRegistry m_registry;
@@ -52,23 +36,32 @@ void TestActionRegistry::init()
     m_registry.addAction(undo, s("Undo"), 3, s("Edit"), true);
 }
 
-void TestActionRegistry::installs()
+void TestActionRegistry::parsesTextForm_data()
 {
-    bool firstAlive = false;
-    bool secondAlive = false;
-    std::unique_ptr<ICuiActionManager> first = std::make_unique<MortalRegistry>(&firstAlive);
-    std::unique_ptr<ICuiActionManager> second = std::make_unique<MortalRegistry>(&secondAlive);
-    ICuiActionManager *secondPointer = second.get();
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<quint64>("tableId");
+    QTest::addColumn<QString>("actionId");
 
-    ICuiActionManager::set(first);
-    QVERIFY(first == nullptr && firstAlive);
-    ICuiActionManager::set(second);
-    QVERIFY(!firstAlive);
-    QVERIFY(MortalRegistry::foundAtDeath != secondPointer); // the old one dies first
-    QCOMPARE(ICuiActionManager::get(), secondPointer);
-    ICuiActionManager::set(second); // empty by now
-    QVERIFY(!secondAlive);
-    QVERIFY(ICuiActionManager::get() == nullptr);
+    QTest::newRow("plain") << "1-undo" << quint64(1) << "undo";
+    QTest::newRow("hyphens stay in the action") << "12-my-action-" << quint64(12) << "my-action-";
+    QTest::newRow("not a number") << "abc-x" << quint64(0) << "x";
+    QTest::newRow("negative") << "--5" << quint64(0) << "-5";
+    QTest::newRow("largest") << "4294967295-x" << quint64(4294967295U) << "x";
+    QTest::newRow("33 bits") << "4294967296-x" << quint64(0) << "x";
+    QTest::newRow("hexadecimal") << "0x10-x" << quint64(0) << "x";
+    QTest::newRow("fraction") << "1.5-x" << quint64(0) << "x";
+    QTest::newRow("no action") << "7-" << quint64(7) << "";
+    QTest::newRow("no hyphen") << "7undo" << quint64(0) << "";
+    QTest::newRow("empty") << "" << quint64(0) << "";
+}
+
+void TestActionRegistry::parsesTextForm()
+{
+    QFETCH(QString, text);
+    const auto identifier = ActionIdentifier::fromString(text);
+    QTEST(quint64(identifier.tableId), "tableId");
+    QTEST(identifier.actionId, "actionId");
+    QCOMPARE(ActionIdentifier::fromString(identifier.toString()), identifier);
 }
 
 void TestActionRegistry::replacesDuplicates()
@@ -108,14 +101,6 @@ void TestActionRegistry::renames()
     m_registry.renameAction(redo, redo, s("Redo")); // its own identifier
     QCOMPARE(modified.count(), 2);
     QVERIFY(m_registry.getAction(redo) == nullptr);
-}
-
-void TestActionRegistry::removes()
-{
-    QVERIFY(m_registry.removeAction(undo));
-    QVERIFY(!m_registry.removeAction(undo));
-    m_registry.clearActionManager();
-    QVERIFY(m_registry.actionContexts().empty());
 }
 
 QTEST_GUILESS_MAIN(TestActionRegistry)

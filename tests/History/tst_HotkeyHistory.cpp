@@ -18,6 +18,7 @@ using CUI::ActionIdentifier;
 using CUI::HotkeyEdits;
 using CUI::QvelHotkeyHistory;
 using CUI::QvelShortcutManager;
+using Step = CUI::ShortcutTransformation;
 
 namespace {
 
@@ -27,13 +28,13 @@ const QStringList keys = list("A|a|B|C|D|E|F|G");
 struct Snapshot {
     PlainMap current;
     PlainMap base;
-    std::vector<CUI::ShortcutTransformation> steps;
+    std::vector<Step> steps;
     bool isModified = false;
     QStringList answers;
     int saves = 0;
 };
 
-QStringList texts(const std::vector<CUI::ShortcutTransformation> &steps)
+QStringList texts(const std::vector<Step> &steps)
 {
     QStringList result;
     for (const auto &step : steps)
@@ -41,8 +42,17 @@ QStringList texts(const std::vector<CUI::ShortcutTransformation> &steps)
     return result;
 }
 
+/// The hotkeys of each action, whatever their order.
+PlainMap sorted(PlainMap map)
+{
+    for (auto &entry : map)
+        entry.second.sort();
+    return map;
+}
+
 } // namespace
 
+/// The edits of an editor: what is saved replays to what is shown, and undo and redo restore it.
 class TestHotkeyHistory : public QObject
 {
     Q_OBJECT
@@ -52,8 +62,13 @@ private Q_SLOTS:
     void namesAndAnnounces();
     void equalsSnapshots();
     void outlivesSlotsThatEdit();
+    void recordsWhatItTakesAway();
+    void savesWhatIsShown();
 
 private:
+    void loadStrangersSet(QvelShortcutManager &store);
+    PlainMap savedMap(const QvelShortcutManager &store) const;
+    PlainMap reloadedMap(QvelShortcutManager &store) const;
     unsigned below(unsigned limit) { return unsigned(m_random()) % limit; }
     const ActionIdentifier &anyAction() { return m_ids[below(unsigned(m_ids.size()))]; }
     QString anyKey() { return keys.at(int(below(unsigned(keys.size())))); }
@@ -61,11 +76,11 @@ private:
     Snapshot snapshot(QvelShortcutManager &store) const;
     void compare(QvelShortcutManager &store, const Snapshot &expected) const;
 
-    std::mt19937 m_random{9};
+    std::mt19937 m_random;
     std::vector<ActionIdentifier> m_ids;
     std::unique_ptr<TestHost> m_host;
     int m_saves = 0;
-    std::vector<CUI::ShortcutTransformation> m_saved;
+    std::vector<Step> m_saved;
 };
 
 void TestHotkeyHistory::init()
@@ -73,6 +88,7 @@ void TestHotkeyHistory::init()
     CUI::QvelMessageLog::getInstance().setMessageLogLevel({});
     m_host.reset();
     m_host = std::make_unique<TestHost>();
+    m_random.seed(9);
     m_ids.clear();
     for (unsigned i = 0; i < 6; ++i) {
         m_ids.push_back({1, s("action%1").arg(i)});
@@ -244,11 +260,6 @@ void TestHotkeyHistory::equalsSnapshots()
     const int index = history.index();
     HotkeyDefaults::apply(store, HotkeyDefaults::planForAll(store), HotkeyDefaults::Held::Take);
     QCOMPARE(history.index(), index + 1);
-    const auto sorted = [](PlainMap map) {
-        for (auto &entry : map)
-            entry.second.sort();
-        return map;
-    };
     QCOMPARE(sorted(plain(store.getShortcuts())), sorted(plain(store.getBaseShortcuts())));
     history.undo();
     QCOMPARE(plain(store.getShortcuts()), before);
@@ -268,6 +279,93 @@ void TestHotkeyHistory::outlivesSlotsThatEdit()
     store.assignShortcut(m_ids[2], s("E"), QString());
     history.undo();
     QVERIFY(store.getShortcutsFromActionId(m_ids[2]).isEmpty());
+}
+
+void TestHotkeyHistory::recordsWhatItTakesAway()
+{
+    QvelShortcutManager store;
+    store.assignShortcut(m_ids[0], s("Ctrl+A"), s("Base"));
+    store.applyTransforms();
+    Recorder recorder(store);
+    HotkeyEdits::give(store, m_ids[2], s("ctrl+A"), s("C"));
+    QCOMPARE(recorder.take(),
+             list("log: Warning: Removing existing shortcut 'ctrl+A' from '1-action0' and "
+                  "assigning it to '1-action2'.|"
+                  "log: Warning: Shortcut 'Ctrl+A' for Action '1-action0' removed.|"
+                  "unassigned 1-action0 Ctrl+A|collapsed|modified|"
+                  "added Remove 'Ctrl+A' from Action 0.|"
+                  "log: Debug: Shortcut 'ctrl+A' for Action '1-action2' added.|"
+                  "assigned 1-action2 ctrl+A|collapsed|added Add 'ctrl+A' to C."));
+}
+
+// A set as other programs may write it: with steps that have no effect, take hotkeys away without
+// saying so, and cancel each other.
+void TestHotkeyHistory::loadStrangersSet(QvelShortcutManager &store)
+{
+    QByteArray steps;
+    for (unsigned i = 0; i < 12; ++i)
+        steps += s("<%1_Hotkey Shortcut='%2' Id='%3'/>")
+                         .arg(below(3) == 0 ? s("Unassign") : s("Assign"), anyKey(),
+                              anyAction().toString())
+                         .toUtf8();
+    QVERIFY(store.loadShortcutTransforms(m_host->write(
+            s("set.hsx"), "<VelHotkeyTransformations>" + steps + "</VelHotkeyTransformations>")));
+}
+
+PlainMap TestHotkeyHistory::savedMap(const QvelShortcutManager &store) const
+{
+    std::vector<Step> steps = store.currentTransformations();
+    collapsePlainly(steps, 0);
+    PlainStore saved(*m_host->registry());
+    saved.current = plain(store.getBaseShortcuts());
+    for (const Step &step : steps)
+        saved.apply(step);
+    return saved.current;
+}
+
+PlainMap TestHotkeyHistory::reloadedMap(QvelShortcutManager &store) const
+{
+    QvelShortcutManager reloaded;
+    for (const auto &[action, hotkeys] : store.getBaseShortcuts()) {
+        for (const QString &hotkey : hotkeys)
+            reloaded.assignShortcut(action, hotkey, QString());
+    }
+    reloaded.applyTransforms();
+    const QString path = m_host->path(s("set.hsx"));
+    if (!store.saveShortcutTransforms(path) || !reloaded.loadShortcutTransforms(path))
+        return {};
+    return plain(reloaded.getShortcuts());
+}
+
+void TestHotkeyHistory::savesWhatIsShown()
+{
+    for (int set = 0; set < 25; ++set) {
+        QvelShortcutManager store;
+        for (int i = 0; i < 30; ++i)
+            HotkeyEdits::give(store, anyAction(), anyKey(), QString());
+        store.applyTransforms();
+        store.setKeepsRefusedTransforms(set % 4 == 0);
+        if (set % 2 == 0)
+            loadStrangersSet(store);
+        for (int edit = 0; edit < 100; ++edit) {
+            PlainStore expected(*m_host->registry());
+            expected.current = plain(store.getShortcuts());
+            const ActionIdentifier action = anyAction();
+            const QString key = anyKey();
+            if (below(2) == 0) {
+                HotkeyEdits::give(store, action, key, QString());
+                expected.give(action, key);
+            } else {
+                HotkeyEdits::take(store, action, key, QString());
+                expected.unassign(action, key);
+            }
+            QCOMPARE(plain(store.getShortcuts()), expected.current);
+            if (!store.keepsRefusedTransforms())
+                QCOMPARE(sorted(savedMap(store)), sorted(expected.current));
+            if (below(20) == 0)
+                QCOMPARE(sorted(reloadedMap(store)), sorted(expected.current));
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(TestHotkeyHistory)

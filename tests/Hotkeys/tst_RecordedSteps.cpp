@@ -6,27 +6,11 @@
 
 #include <random>
 
-using CUI::ActionIdentifier;
 using CUI::RecordedSteps;
 using Step = CUI::ShortcutTransformation;
 using Steps = RecordedSteps::Steps;
 
 namespace {
-
-// Steps written as "+X a" (assign X to action a) or "-X a" (take it away). Their descriptions
-// number them, so that lists are told apart even where the same step survives at another place.
-Steps steps(const char *text)
-{
-    Steps result;
-    for (const QString &step : list(text)) {
-        const bool isAssignment = step.startsWith(QLatin1Char('+'));
-        const QStringList parts = step.mid(1).split(QLatin1Char(' '));
-        result.emplace_back(isAssignment ? Step::Assign : Step::Unassign,
-                            ActionIdentifier{1, parts.at(1)}, parts.at(0),
-                            QString::number(result.size()));
-    }
-    return result;
-}
 
 QStringList texts(const Steps &steps)
 {
@@ -56,32 +40,9 @@ class TestRecordedSteps : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void collapses();
     void equalsPlainRule();
     void growingEqualsPlainRule();
 };
-
-void TestRecordedSteps::collapses()
-{
-    // The numbers of the steps that are left.
-    const auto left = [](const char *list, std::size_t start = 0) {
-        Steps collapsed = steps(list);
-        RecordedSteps::cancel(collapsed, start);
-        QString numbers;
-        for (const Step &step : collapsed)
-            numbers += step.description();
-        return numbers;
-    };
-    QCOMPARE(left("+E a|-E a"), QString());
-    QCOMPARE(left("-E a|+E a"), QString());
-    QCOMPARE(left("+E a|+E a|-E a"), QString());
-    QCOMPARE(left("+E a|+E a"), s("0"));
-    QCOMPARE(left("+E a|-e a"), s("01"));
-    QCOMPARE(left("+E a|-E A"), s("01"));
-    QCOMPARE(left("+X a|-X a|+X a|+Y a"), s("23"));
-    QCOMPARE(left("+X a|-X a", 1), s("01"));
-    QCOMPARE(left("+X a|-X a", 9), s("01"));
-}
 
 void TestRecordedSteps::equalsPlainRule()
 {

@@ -61,67 +61,39 @@ void TestHotkeyRecorder::captures_data()
                             << int(wayOut);
     };
     row("digit with Shift", Qt::Key_Exclam, shift, 49, "Shift+1");
-    row("last digit", Qt::Key_ParenRight, shift, 48, "Shift+0");
     row("before the digits", Qt::Key_Exclam, none, 47, "!");
     row("after the digits", Qt::Key_Exclam, none, 58, "!");
     row("Cyrillic letter", 0x042F, ctrl, 90, "Ctrl+Z");
     row("letter of another layout", Qt::Key_Q, ctrl | alt | shift, 65, "Ctrl+Alt+Shift+A");
     row("before the letters", Qt::Key_Exclam, none, 64, "!");
-    row("after the letters", Qt::Key_Exclam, none, 91, "!");
     row("unknown virtual key", Qt::Key_Exclam, shift, 0, "Shift+!");
 
     row("first punctuation", Qt::Key_Colon, shift, 186, "Shift+;");
     row("plus", Qt::Key_Plus, ctrl | shift, 187, "Ctrl+Shift+=");
-    row("comma", Qt::Key_Less, shift, 188, "Shift+,");
-    row("minus", Qt::Key_Underscore, shift, 189, "Shift+-");
-    row("full stop", Qt::Key_Greater, shift, 190, "Shift+.");
-    row("slash", Qt::Key_Question, shift, 191, "Shift+/");
-    row("backquote", Qt::Key_AsciiTilde, shift, 192, "Shift+`");
-    row("opening bracket", Qt::Key_BraceLeft, shift, 219, "Shift+[");
-    row("backslash", Qt::Key_Bar, shift, 220, "Shift+\\");
-    row("closing bracket", Qt::Key_BraceRight, shift, 221, "Shift+]");
-    row("apostrophe", Qt::Key_QuoteDbl, shift, 222, "Shift+'");
     row("last punctuation", Qt::Key_AsciiTilde, shift, 223, "Shift+§");
     row("punctuation without a character", Qt::Key_AsciiTilde, shift, 200, "Shift+~");
 
     row("keypad 0", Qt::Key_0, keypad, 96, "Num+0");
     row("keypad 5", Qt::Key_5, keypad | ctrl, 101, "Ctrl+Num+5");
-    row("keypad plus", Qt::Key_Plus, keypad, 107, "Num++");
     row("keypad separator", Qt::Key_Comma, keypad, 108, ",");
-    row("keypad slash", Qt::Key_Slash, keypad, 111, "Num+/");
     row("keypad without numbers", Qt::Key_Home, keypad, 36, "Home");
     row("keypad Enter", Qt::Key_Enter, keypad, 13, "Enter");
     row("before the keypad", Qt::Key_A, none, 95, "A");
     row("after the keypad", Qt::Key_A, none, 112, "A");
 
     row("Return", Qt::Key_Return, none, 13, "Enter");
-    row("Backtab", Qt::Key_Backtab, shift, 9, "Shift+Tab");
     row("Tab", Qt::Key_Tab, none, 9, "Tab");
-    row("Alt+Tab", Qt::Key_Tab, alt, 9, "Alt+Tab");
-    row("Ctrl+Alt+Tab", Qt::Key_Tab, ctrl | alt, 9, "Ctrl+Alt+Tab");
     row("F2", Qt::Key_F2, none, 113, "F2");
-    row("F24", Qt::Key_F24, shift, 135, "Shift+F24");
-    row("Caps Lock", Qt::Key_CapsLock, none, 20, "CapsLock");
-    row("Delete", Qt::Key_Delete, none, 46, "Del");
     row("Meta is dropped", Qt::Key_A, meta | ctrl, 65, "Ctrl+A");
 
     // Keys that are no hotkeys
     row("Escape", Qt::Key_Escape, none, 27, "");
-    row("Ctrl+Escape", Qt::Key_Escape, ctrl, 27, "", "Ctrl+");
     row("Shift+F1", Qt::Key_F1, shift, 112, "", "Shift+");
-    row("Alt+Backspace", Qt::Key_Backspace, alt, 8, "", "Alt+");
-    row("Pause", Qt::Key_Pause, none, 19, "");
-    row("Num Lock", Qt::Key_NumLock, none, 144, "");
-    row("Scroll Lock", Qt::Key_ScrollLock, ctrl | alt, 145, "", "Ctrl+Alt+");
     row("Ctrl+Tab", Qt::Key_Tab, ctrl, 9, "", "Ctrl+", WayOut::Next);
-    row("Ctrl+Backtab", Qt::Key_Backtab, ctrl, 9, "", "Ctrl+", WayOut::Previous);
     row("Ctrl+Shift+Backtab", Qt::Key_Backtab, ctrl | shift, 9, "", "Ctrl+Shift+",
         WayOut::Previous);
-    row("Ctrl+Shift+Tab", Qt::Key_Tab, ctrl | shift, 9, "", "Ctrl+Shift+", WayOut::Previous);
     row("Ctrl+Meta+Tab", Qt::Key_Tab, ctrl | meta, 9, "", "Ctrl+", WayOut::Next);
     row("F25", Qt::Key_F25, none, 0, "");
-    row("menu key", Qt::Key_Menu, ctrl, 93, "", "Ctrl+");
-    row("volume key", Qt::Key_VolumeUp, none, 175, "");
     row("unknown key", Qt::Key_unknown, shift, 0, "", "Shift+");
     row("no key", 0, ctrl, 0, "", "Ctrl+");
 

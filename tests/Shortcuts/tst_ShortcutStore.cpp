@@ -15,7 +15,6 @@ namespace {
 const ActionIdentifier a{1, QStringLiteral("a")};
 const ActionIdentifier b{1, QStringLiteral("b")};
 const ActionIdentifier c{2, QStringLiteral("c")};
-const ActionIdentifier unknown{9, QStringLiteral("nobody")};
 
 } // namespace
 
@@ -28,14 +27,10 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void announcesEdits();
-    void findsConflictInOtherLetterCase();
-    void recordsStepOfUnknownAction();
     void worksWithoutRegistry();
     void refusesSeventhHotkey();
     void ignoresEmptyText();
     void recordsWhatChangesNothing();
-    void survivesArgumentsFromItsOwnMap();
-    void modifiedFollowsTheSteps();
     void answersWhatTheUserModified();
     void appliesAndClearsTransforms();
     void collapsesTransforms();
@@ -103,25 +98,6 @@ void TestShortcutStore::announcesEdits()
     QCOMPARE(m_recorder->takeSignals().last(), s("added Remove '%4' from %1 Render."));
 }
 
-void TestShortcutStore::findsConflictInOtherLetterCase()
-{
-    assign(a, "Ctrl+A");
-    m_recorder->take();
-    assign(b, "ctrl+a");
-    // The conflict is found without regard to case, the removal compares exactly.
-    QCOMPARE(m_recorder->takeSignals(), list("unassigned 1-a ctrl+a|assigned 1-b ctrl+a|collapsed|"
-                                             "added Add 'ctrl+a' to b."));
-    QCOMPARE(m_store->getShortcutsFromActionId(a), s("Ctrl+A"));
-    QCOMPARE(m_store->getShortcutsFromActionId(b), s("ctrl+a"));
-}
-
-void TestShortcutStore::recordsStepOfUnknownAction()
-{
-    assign(unknown, "X");
-    QCOMPARE(m_recorder->take(), list("log: Warning: Action '9-nobody' not found.|collapsed|"
-                                      "modified|added Add 'X' to nobody."));
-}
-
 void TestShortcutStore::worksWithoutRegistry()
 {
     std::unique_ptr<CUI::ICuiActionManager> none;
@@ -165,27 +141,6 @@ void TestShortcutStore::recordsWhatChangesNothing()
     QCOMPARE(m_recorder->take(), list("log: Debug: Shortcut 'y' for Action '1-a' removed.|"
                                       "unassigned 1-a y|collapsed|added Remove 'y' from a."));
     QCOMPARE(m_store->getShortcutsFromActionId(a), s("Y"));
-}
-
-void TestShortcutStore::survivesArgumentsFromItsOwnMap()
-{
-    assign(a, "X");
-    const auto entry = m_store->getShortcuts().begin();
-    m_store->unassignShortcut(entry->first, entry->second.first(), s("A"));
-    QCOMPARE(m_recorder->takeSignals().last(), s("added Remove 'X' from A."));
-    QVERIFY(m_store->getShortcuts().empty());
-}
-
-void TestShortcutStore::modifiedFollowsTheSteps()
-{
-    assign(a, "X");
-    assign(b, "X");
-    unassign(b, "X");
-    m_recorder->take();
-    unassign(a, "X");
-    QCOMPARE(m_recorder->takeSignals(), list("collapsed|unmodified|added Remove 'X' from a."));
-    QVERIFY(!m_store->isUserModified());
-    QCOMPARE(stepCount(), std::size_t(0));
 }
 
 void TestShortcutStore::answersWhatTheUserModified()
