@@ -19,16 +19,12 @@ class TestPreset : public QObject
 private Q_SLOTS:
     void init();
     void cleanup() { m_host.reset(); }
-    void comparesByPath();
-    void namesItself();
     void tellsShippedSetsByTheirPath();
     void writable();
     void keepsOtherPermissions();
     void lists();
-    void listsEachPathOnce();
     void leavesOutWhatIsNoSet();
     void seesEveryChange();
-    void listsNothingOfMenus();
     void listsNothingWithoutHost();
 
 private:
@@ -65,27 +61,6 @@ QStringList TestPreset::listed() const
         result << (preset.isCustomName() && preset.isValid() ? text : s("flags of ") + text);
     }
     return result;
-}
-
-void TestPreset::comparesByPath()
-{
-    const Preset a(s("/a.hsx"), false, s("A"));
-    QVERIFY(a == Preset(s("/a.hsx"), true, s("B")));
-    QVERIFY(a != Preset(s("/A.hsx"), false, s("A")));
-    QVERIFY(Preset(s("/B.hsx"), false, s("A")) < a); // by code units
-    QVERIFY(!(a < a));
-    QVERIFY(!Preset().isValid());
-}
-
-void TestPreset::namesItself()
-{
-    Preset preset(s("/x/My.Keys.hsx"), false, QString());
-    QCOMPARE(preset.name(), s("My")); // up to the first dot
-    QVERIFY(!preset.isCustomName());
-    preset.setName(s("Later"));
-    QCOMPARE(preset.name(), s("Later"));
-    QVERIFY(preset.isCustomName());
-    QVERIFY(Preset().name().isEmpty());
 }
 
 void TestPreset::tellsShippedSetsByTheirPath()
@@ -135,13 +110,6 @@ void TestPreset::lists()
     QVERIFY(!Preset::isFileReadOnly(path("user/a.b.hsx")));
 }
 
-void TestPreset::listsEachPathOnce()
-{
-    writeSet("shipped/a.hsx");
-    m_host->paths()->userPresets = path("user/../shipped/");
-    QCOMPARE(listed(), list("shipped/a.hsx=a*"));
-}
-
 void TestPreset::leavesOutWhatIsNoSet()
 {
     writeSet("user/good.hsx");
@@ -179,15 +147,6 @@ void TestPreset::seesEveryChange()
     QCOMPARE(listed(), list("user/a.hsx=70"));
     QVERIFY(QFile::remove(path("user/a.hsx")));
     QCOMPARE(listed(), QStringList());
-}
-
-void TestPreset::listsNothingOfMenus()
-{
-    writeSet("shipped/a.hsx");
-    writeSet("shipped/a.mnuxt");
-    QVERIFY(Preset::getPresetList(ConfigType::Menu).isEmpty());
-    QVERIFY(Preset::getPresetList(static_cast<ConfigType>(7)).isEmpty());
-    QVERIFY(!Preset::isFileReadOnly(path("shipped/a.hsx")));
 }
 
 void TestPreset::listsNothingWithoutHost()

@@ -6,7 +6,6 @@
 #include <UiCustomizations/HotkeySetReport.h>
 #include <UiCustomizations/QvelShortcutManager.h>
 
-#include <QProcess>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -42,24 +41,17 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void ignoresEmptyPaths();
     void loadsBase();
     void savesBaseInOrder();
     void savesSet();
     void loadsSet();
-    void dropsAssignmentsWithoutRoom();
     void repairsASetOfAnotherBase();
     void failingSaveKeepsTheOldFile_data();
     void failingSaveKeepsTheOldFile();
     void failingSaveKeepsTheEdits();
-    void editsOfAFailedSaveCanBeDiscarded();
-    void reportsWrongRoot();
-    void tellsOfSavedFileThatDoesNotConform();
     void refusesHotkeysThatXmlCannotHold();
     void peeks();
     void layersConfiguration();
-    void acceleratorsMoveHotkeys();
-    void loadsWithoutHost();
     void survivesFailingFiles();
 
 private:
@@ -108,18 +100,6 @@ void TestStoreFiles::cleanup()
     m_recorder.reset();
     m_store.reset();
     m_host.reset();
-}
-
-void TestStoreFiles::ignoresEmptyPaths()
-{
-    assign(a, "A");
-    m_recorder->take();
-    m_store->saveShortcuts(QString());
-    QVERIFY(!m_store->loadShortcuts(QString()));
-    QVERIFY(!m_store->saveShortcutTransforms(QString()));
-    QVERIFY(!m_store->loadShortcutTransforms(QString()));
-    QCOMPARE(m_recorder->take(), QStringList());
-    QCOMPARE(held(a), s("A"));
 }
 
 void TestStoreFiles::loadsBase()
@@ -233,17 +213,6 @@ void TestStoreFiles::loadsSet()
     QCOMPARE(m_store->currentTransformations().size(), std::size_t(4));
 }
 
-void TestStoreFiles::dropsAssignmentsWithoutRoom()
-{
-    QByteArray steps;
-    for (const char key : {'A', 'B', 'C', 'D', 'E', 'F', 'G'})
-        steps += QByteArray("<Assign_Hotkey Shortcut='") + key + "' Id='1-a'/>";
-    steps += "<Unassign_Hotkey Shortcut='A' Id='1-a'/><Assign_Hotkey Shortcut='H' Id='1-a'/>";
-    QVERIFY(m_store->loadShortcutTransforms(writeSet("a.hsx", steps)));
-    QCOMPARE(held(a), s("B, C, D, E, F, H"));
-    QCOMPARE(m_store->currentTransformations().size(), std::size_t(8)); // without G
-}
-
 void TestStoreFiles::repairsASetOfAnotherBase()
 {
     QVERIFY(m_store->loadShortcuts(
@@ -326,66 +295,7 @@ void TestStoreFiles::failingSaveKeepsTheEdits()
     QCOMPARE(TestHost::read(set).count("Id="), 0);
 }
 
-void TestStoreFiles::editsOfAFailedSaveCanBeDiscarded()
-{
-    assign(a, "X");
-    QVERIFY(m_store->saveShortcutTransforms(m_host->path(s("a.hsx"))));
-    unassign(a, "X");
-    QVERIFY(!m_store->saveShortcutTransforms(m_host->path(s("nowhere/a.hsx"))));
-    m_recorder->take();
-    QVERIFY(m_store->loadShortcutTransforms(m_host->path(s("a.hsx"))));
-    QCOMPARE(m_recorder->takeSignals().mid(0, 2), list("unmodified|transformsCleared"));
-    QCOMPARE(held(a), s("X"));
-}
-
 // Only a schema of the host's own, beside its executable, lets a foreign root come so far.
-void TestStoreFiles::reportsWrongRoot()
-{
-    if (!qEnvironmentVariableIsSet("HOST_WITH_OWN_SCHEMAS")) {
-        const QString program = m_host->path(s("tst_StoreFiles"));
-        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
-        for (const char *name : {"HotkeyMappingSchema.xsd", "HotkeyTransformationSchema.xsd"})
-            m_host->write(s(name), "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>"
-                                   "<xs:element name='Other'/></xs:schema>");
-        qputenv("HOST_WITH_OWN_SCHEMAS", "1");
-        QCOMPARE(QProcess::execute(program, {s("reportsWrongRoot")}), 0);
-        return;
-    }
-    // The values stand one place later than their labels say. The "%1" of the path is the lowest
-    // placeholder once the path is in, and takes the error's text.
-    const QString base = m_host->write(s("%1 a.hsxb"), "\n<Other/>");
-    assign(a, "A");
-    QVERIFY(!m_store->loadShortcuts(base));
-    QCOMPARE(m_recorder->takeLines().last(),
-             s("Error: Loading of hotkey configuration file failed!\n")
-                     + QString(base).replace(s("%1"), s("This is not a valid hsxb file."))
-                     + s(" Line: 2 Column: 8 Offset: 9"));
-    QVERIFY(held(a).isEmpty());
-
-    const QString set = m_host->write(s("a.hsx"), "\n<Other/>");
-    assign(c, "Z");
-    QVERIFY(!m_store->loadShortcutTransforms(set));
-    QCOMPARE(m_recorder->takeLines().last(),
-             s("Error: Loading of transform file failed!\n%1 Line: This is not a valid hsx file. "
-               "Column: 2 Offset: 8")
-                     .arg(set));
-    QVERIFY(m_store->currentTransformations().empty());
-    bool locked = true;
-    QString name;
-    QVERIFY(QvelShortcutManager::peekPresetMetadata(set, locked, name));
-    QVERIFY(locked && name.isNull());
-}
-
-void TestStoreFiles::tellsOfSavedFileThatDoesNotConform()
-{
-    connect(m_store.get(), &QvelShortcutManager::shortcutsUnModified, this,
-            [this] { m_host->write(s("a.hsx"), "<Odd/>"); });
-    assign(a, "A");
-    QTest::ignoreMessage(QtDebugMsg, "Generated transformation file doesn't conform to the schema "
-                                     "defined in HotkeyTransformationSchema.xsd.");
-    QVERIFY(m_store->saveShortcutTransforms(m_host->path(s("a.hsx"))));
-}
-
 void TestStoreFiles::refusesHotkeysThatXmlCannotHold()
 {
     const QString set = m_host->write(s("a.hsx"), "old set");
@@ -458,37 +368,6 @@ void TestStoreFiles::layersConfiguration()
     QVERIFY(!m_store->isUserModified());
     QCOMPARE(m_host->registry()->acceleratorCalls, 1);
     QCOMPARE(m_host->paths()->recorded, QStringList(set));
-}
-
-void TestStoreFiles::acceleratorsMoveHotkeys()
-{
-    m_host->paths()->baseFiles =
-            QStringList{writeBase("1.hsxb", "<Hotkey Shortcut='A' Id='1-a'/>"
-                                            "<Hotkey Shortcut='1, 2, 3, 4, 5, 6, 7' Id='2-c'/>")};
-    m_host->registry()->accelerators = {{b, s("A")}, {c, s("8")}};
-    m_store->loadShortcutConfiguration(QString());
-    QCOMPARE(held(c), s("1, 2, 3, 4, 5, 6")); // no seventh, neither from the file nor besides
-    QVERIFY(heldInBase(a).isEmpty());
-    QCOMPARE(heldInBase(b), s("A"));
-    QCOMPARE(held(b), s("A"));
-    QCOMPARE(m_host->paths()->recorded, QStringList(QString()));
-}
-
-void TestStoreFiles::loadsWithoutHost()
-{
-    std::unique_ptr<CUI::IPathManager> none;
-    CUI::IPathManager::set(none);
-    m_store->loadCurrentShortcutConfiguration();
-    QCOMPARE(m_recorder->take(), list("aboutToLoad |loaded "));
-
-    std::unique_ptr<CUI::ICuiActionManager> noRegistry;
-    CUI::ICuiActionManager::set(noRegistry);
-    m_store->loadShortcutConfiguration(writeSet("a.hsx", "<Assign_Hotkey Shortcut='A' Id='1-a'/>"
-                                                         "<Assign_Hotkey Shortcut='A' Id='9-x'/>"));
-    QCOMPARE(m_store->getShortcuts().size(), std::size_t(2)); // nobody knows of a conflict
-    m_store->applyTransforms();
-    m_store->saveShortcuts(m_host->path(s("a.hsxb")));
-    QVERIFY(!TestHost::read(m_host->path(s("a.hsxb"))).contains("Description"));
 }
 
 void TestStoreFiles::survivesFailingFiles()
