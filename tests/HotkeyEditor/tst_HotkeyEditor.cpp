@@ -2,16 +2,15 @@
 
 #include <UiCustomizations/HotkeySetWatcher.h>
 #include <UiCustomizations/QvelHotkeyHistory.h>
-#include <VelUtil.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QGroupBox>
 #include <QHeaderView>
-#include <QListView>
 #include <QMenu>
+#include <QPushButton>
 #include <QRadioButton>
-#include <QToolButton>
+#include <QVBoxLayout>
 #include <QtTest>
 
 using CUI::QvelShortcutsWidget;
@@ -19,6 +18,31 @@ using CUI::QvelShortcutsWidget;
 namespace {
 
 const QString allRows = s("Array of <b>Box</b>, Bevel, Box, Sphere");
+
+/// Who has the focus: the accessible name of a button in a row, the object name of others.
+QString focused()
+{
+    const QWidget *widget = QApplication::focusWidget();
+    if (widget == nullptr)
+        return {};
+    return widget->objectName().endsWith(s("AssignedButton")) ? widget->accessibleName()
+                                                              : widget->objectName();
+}
+
+std::unique_ptr<QDialog> dialogOfTheHost()
+{
+    auto dialog = std::make_unique<QDialog>();
+    new QVBoxLayout(dialog.get());
+    return dialog;
+}
+
+QPushButton *addButton(QDialog *dialog)
+{
+    auto *button = new QPushButton(dialog);
+    button->setObjectName(s("ok"));
+    dialog->layout()->addWidget(button);
+    return button;
+}
 
 } // namespace
 
@@ -28,16 +52,11 @@ class TestHotkeyEditor : public EditorTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { VelSDK::SetUIScaleFactor(1.0); }
-    void hasItsTexts();
-    void scales();
     void selects();
     void assigns();
     void showsConflict();
     void removesFromHolderAndUndoes();
     void removesRowsAndUndoes();
-    void takesRemovalBack_data();
-    void takesRemovalBack();
     void refusesSeventhHotkey();
     void searchesActions();
     void searchesHotkeys();
@@ -46,12 +65,16 @@ private Q_SLOTS:
     void resetsToDefault();
     void listsWhatAReloadHasCustomized();
     void followsTheStore();
-    void reloadsActions();
-    void listsTransformations();
-    void colours();
-    void followsTheLanguage();
+    void keepsShortcutsOfTheHostQuiet();
+    void leavesFields_data();
+    void leavesFields();
+    void tabsThroughRows();
+    void keepsFocusAmongRows();
+    void leavesReturnToTheHost();
 
 private:
+    void searchByHotkeys() const;
+    QPushButton *rowButton(const char *accessibleName) const;
     bool showsAll(const char *controls) const;
     bool showsConflictControls() const
     {
@@ -84,61 +107,6 @@ bool TestHotkeyEditor::showsNoAction() const
 {
     return m->editor->currentAction() == nullptr && !m->shows("newHotkeysGroupBox")
            && m->label("HotkeyEditor_selectedActionLabel") == s("<b>No action selected</b>");
-}
-
-void TestHotkeyEditor::hasItsTexts()
-{
-    const auto check = [this](const char *name, const char *text, const char *toolTip) {
-        const auto *widget = m->child(name);
-        const QVariant shown = widget->property("text");
-        if (shown.isValid() && *text != '\0')
-            QCOMPARE(shown.toString(), s(text));
-        QCOMPARE(widget->toolTip(), s(toolTip));
-    };
-    check("HotkeyEditor_toolButtonSavePreset", "Save", "Save changes...");
-    check("HotkeyEditor_hotkeySetLabel", "Hotkey Set:", "");
-    check("HotkeyEditor_toolButtonPresetOptions", "...", "Save, load...");
-    check("HotkeyEditor_hotkeySetComboBox", "", "Change the active...");
-    check("HotkeyEditor_hotkeyFilterComboBox", "", "Filter the list... assigned");
-    check("HotkeyEditor_groupLabel", "Group:", "");
-    check("HotkeyEditor_contextComboBox", "", "Filter the list...context");
-    check("HotkeyEditor_filterLabel", "Filter:", "");
-    check("HotkeyEditor_searchLineEdit", "", "Press keys and modifiers...");
-    check("HotkeyEditor_hotkeyRadioButton", "Hotkeys", "Search will be... hotkey");
-    check("HotkeyEditor_actionRadioButton", "Actions", "Search will be... action");
-    check("HotkeyEditor_shortcutLineEdit", "Type new hotkey...", "Press keys and... assign");
-    check("HotkeyEditor_assignShortcutBtn", "Assign", "Assigns the hotkey...");
-    check("HotkeyEditor_undoRemoveBtn", "Undo", "Reassign the hotkey...");
-    check("HotkeyEditor_sucessRemoveLabel", "Removed from:", "");
-    check("HotkeyEditor_alreadyAssignedLabel", "Conflicts with:", "");
-    check("HotkeyEditor_removeShortcutBtn", "Remove", "Removes the assignment...");
-    check("HotkeyEditor_selectedActionLabel", "No action selected", "");
-    check("HotkeyEditor_actionDescriptionLabel",
-          "Select an action in the table on the left to edit its hotkeys", "");
-    QCOMPARE(m->editor->windowTitle(), s("QvelShortcutsWidget"));
-    QCOMPARE(m->child<QGroupBox>("newHotkeysGroupBox")->title(), s("Hotkeys"));
-    QCOMPARE(m->field()->placeholderText(), s("Press keys..."));
-    QCOMPARE(m->child("HotkeyEditor_groupLabel")->width(),
-             m->child("HotkeyEditor_filterLabel")->width());
-
-    QStringList options;
-    for (const QAction *action :
-         m->child<QToolButton>("HotkeyEditor_toolButtonPresetOptions")->menu()->actions())
-        options << (action->isSeparator() ? s("-") : action->text());
-    QCOMPARE(options, list("Save|Save As...|-|Load From File...|-|Reset|-|Open File Location|-|"
-                           "Import Legacy Hotkeys..."));
-}
-
-void TestHotkeyEditor::scales()
-{
-    VelSDK::SetUIScaleFactor(1.5);
-    m->close();
-    m->open();
-    VelSDK::SetUIScaleFactor(1.0);
-    QCOMPARE(m->sets()->minimumWidth(), 270);
-    QCOMPARE(m->sets()->maximumWidth(), 1200);
-    QCOMPARE(m->search()->minimumWidth(), 180);
-    QCOMPARE(m->search()->maximumWidth(), 465);
 }
 
 void TestHotkeyEditor::selects()
@@ -262,35 +230,7 @@ void TestHotkeyEditor::removesRowsAndUndoes()
     QCOMPARE(m->assigned(), s("F7, Ctrl+S, S"));
 }
 
-void TestHotkeyEditor::takesRemovalBack_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("isReset"); // or else the store is emptied
-    QTest::newRow("base hotkey") << int(Qt::Key_B) << true;
-    QTest::newRow("hotkey of the set") << int(Qt::Key_F5) << true;
-    QTest::newRow("no hotkeys at all") << int(Qt::Key_B) << false;
-}
-
 // The removal that could be undone has not happened any more.
-void TestHotkeyEditor::takesRemovalBack()
-{
-    QFETCH(int, key);
-    QFETCH(bool, isReset);
-    m->select(sphere);
-    m->press(key);
-    m->click("HotkeyEditor_removeShortcutBtn");
-    QVERIFY(showsReassignControls());
-    if (isReset) {
-        m->editor->discardChanges();
-        QCOMPARE(m->hotkeys(box), s("B, F5"));
-    } else {
-        m->manager.clearShortcuts();
-    }
-    QVERIFY(!showsReassignControls());
-    QCOMPARE(showsConflictControls(), isReset);
-    QVERIFY(!m->canAssign());
-}
-
 void TestHotkeyEditor::refusesSeventhHotkey()
 {
     m->select(boxes);
@@ -483,86 +423,142 @@ void TestHotkeyEditor::followsTheStore()
     QVERIFY(m->field()->text().isEmpty());
 }
 
-void TestHotkeyEditor::reloadsActions()
+void TestHotkeyEditor::searchByHotkeys() const
 {
-    m->tree()->setColumnWidth(0, 123);
-    m->tree()->setColumnWidth(1, 77);
-    m->select(sphere);
-    m->host.registry()->addAction({1, s("cone")}, s("Cone"), 1, s("Add"), false);
-    m->editor->reloadActionsList();
-    QVERIFY(m->rows().contains(s("Cone")));
-    QCOMPARE(m->tree()->columnWidth(0), 123);
-    QCOMPARE(m->tree()->columnWidth(1), 77);
-    QCOMPARE(m->editor->currentAction()->identifier(), sphere);
-    QCOMPARE(m->assigned(), s("Ctrl+S, S"));
-
-    m->field()->setFocus();
-    m->press(Qt::Key_K);
-    m->host.registry()->removeAction(sphere);
-    m->editor->reloadActionsList();
-    QVERIFY(showsNoAction());
-    QVERIFY(m->search()->hasFocus()); // the chooser of sets would take the next letter
-    QVERIFY(m->field()->text().isEmpty());
+    m->child<QRadioButton>("HotkeyEditor_hotkeyRadioButton")->click();
 }
 
-void TestHotkeyEditor::listsTransformations()
+QPushButton *TestHotkeyEditor::rowButton(const char *accessibleName) const
 {
-    m->editor->transformationListWidget();
-    auto *dialog = m->editor->findChild<QDialog *>();
-    QVERIFY(dialog != nullptr && dialog->isVisible());
-    QCOMPARE(dialog->windowTitle(), s("Shortcut Transformation List"));
-    const auto *steps = dialog->findChild<QListView *>()->model();
-    const auto texts = [steps] { return EditorHarness::textsOf(steps).join(QLatin1Char(' ')); };
-    m->assign(sphere, "F9");
-    QCOMPARE(texts(), s("Add 'F5' to Box. Add 'F9' to Sphere."));
-    m->unassign(box, "B");
-    QCOMPARE(texts(), s("Add 'F5' to Box. Add 'F9' to Sphere. Remove 'B' from Box."));
-    m->unassign(sphere, "F9");
-    QCOMPARE(texts(), s("Add 'F5' to Box. Remove 'B' from Box."));
-    m->editor->transformationListWidget();
-    QVERIFY(!dialog->isVisible());
-    m->editor->transformationListWidget();
-    QVERIFY(dialog->isVisible());
-    QCOMPARE(m->editor->findChildren<QDialog *>().size(), 1);
-
-    m->editor->applyCurrentTransformation();
-    QCOMPARE(texts(), QString());
-    QCOMPARE(m->manager.getBaseShortcutsFromActionId(box), s("F5"));
-    m->chooseSet("Other");
-    QCOMPARE(texts(), s("Remove 'B' from ."));
-    m->manager.clearShortcuts();
-    QCOMPARE(texts(), QString());
+    for (auto *found : m->child("assignedHotkeysWidget")->findChildren<QPushButton *>())
+        if (found->accessibleName() == s(accessibleName))
+            return found;
+    qFatal("no button '%s'", accessibleName);
 }
 
-void TestHotkeyEditor::colours()
+void TestHotkeyEditor::keepsShortcutsOfTheHostQuiet()
 {
-    const QColor edited(1, 2, 3);
-    const QColor transformed(4, 5, 6);
-    m->editor->setUserModifiedColor(edited);
-    m->editor->setTransformShortcutsColor(transformed);
+    QAction action;
+    action.setShortcuts({QKeySequence(s("Ctrl+G")), QKeySequence(s("Tab"))});
+    action.setShortcutContext(Qt::ApplicationShortcut);
+    m->editor->addAction(&action);
+    QSignalSpy fired(&action, &QAction::triggered);
     m->select(box);
-    m->enter(Qt::Key_F8);
-    QMap<QString, QColor> colours;
-    for (const auto *row : m->child("assignedHotkeysWidget")->findChildren<QLabel *>())
-        colours[row->text()] = row->palette().color(row->foregroundRole());
-    QCOMPARE(colours.value(s("F8")), edited);
-    QCOMPARE(colours.value(s("F5")), transformed); // from the loaded set
-    QCOMPARE(colours.value(s("B")), QApplication::palette().color(QPalette::WindowText));
+    QTest::keyClick(m->tree(), Qt::Key_G, Qt::ControlModifier);
+    QCOMPARE(fired.count(), 1); // it works elsewhere
+    m->field()->setFocus();
+    m->press(Qt::Key_G, Qt::ControlModifier);
+    QCOMPARE(m->field()->text(), s("Ctrl+G"));
+    m->press(Qt::Key_Tab);
+    searchByHotkeys();
+    QTest::keyClick(m->search(), Qt::Key_G, Qt::ControlModifier);
+    QCOMPARE(m->search()->text(), s("Ctrl+G"));
+    QCOMPARE(fired.count(), 1);
 }
 
-void TestHotkeyEditor::followsTheLanguage()
+void TestHotkeyEditor::leavesFields_data()
+{
+    QTest::addColumn<bool>("isSearch");
+    QTest::addColumn<bool>("isBack");
+    QTest::addColumn<QString>("next");
+    QTest::newRow("new hotkey, on") << false << false << "scrollAreaAssignedHotkeys";
+    QTest::newRow("new hotkey, back") << false << true << "HotkeyEditor_keyActionsTreeView";
+    QTest::newRow("search, on") << true << false << "HotkeyEditor_hotkeyRadioButton";
+    QTest::newRow("search, back") << true << true << "HotkeyEditor_hotkeyFilterComboBox";
+}
+
+// Plain Tab is a hotkey like others, so another key must lead out.
+void TestHotkeyEditor::leavesFields()
+{
+    QFETCH(bool, isSearch);
+    QFETCH(bool, isBack);
+    QAction action; // the host would change pages
+    action.setShortcuts({QKeySequence(s("Ctrl+Tab")), QKeySequence(s("Ctrl+Shift+Tab"))});
+    m->editor->addAction(&action);
+    QSignalSpy fired(&action, &QAction::triggered);
+    searchByHotkeys();
+    m->select(sphere);
+    QLineEdit *left = isSearch ? m->search() : m->field();
+    left->setFocus();
+    QTest::keyClick(left, Qt::Key_Q);
+    QTest::keyPress(left, isBack ? Qt::Key_Backtab : Qt::Key_Tab,
+                    isBack ? Qt::ControlModifier | Qt::ShiftModifier : Qt::ControlModifier);
+    QTEST(focused(), "next");
+    QVERIFY(!m->canAssign());
+    QCoreApplication::processEvents();
+    QVERIFY(left->text().isEmpty());
+    QVERIFY(m->rows().contains(s("Sphere"))); // no search is left
+    QCOMPARE(fired.count(), 0);
+}
+
+void TestHotkeyEditor::tabsThroughRows()
+{
+    m->close();
+    auto holder = dialogOfTheHost();
+    auto *ok = addButton(holder.get());
+    m->open(std::move(holder));
+    auto *scrollArea = m->child("scrollAreaAssignedHotkeys");
+    QWidget::setTabOrder(scrollArea, ok);
+    m->select(sphere);
+    m->enter(Qt::Key_F7);
+    m->clickRow("S");
+    scrollArea->setFocus();
+    for (const QString &next : list("Remove F7|Remove Ctrl+S|Undo S|ok")) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(focused(), next);
+    }
+    QTest::keyClick(ok, Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(focused(), s("Undo S"));
+}
+
+// By itself the focus would go to whatever comes next: another hotkey's Remove, or the chooser of
+// sets, which the next letter changes.
+void TestHotkeyEditor::keepsFocusAmongRows()
 {
     m->select(sphere);
-    m->press(Qt::Key_K, Qt::ControlModifier);
-    QTest::keyClicks(m->search(), s("s"));
-    QEvent change(QEvent::LanguageChange);
-    QApplication::sendEvent(m->editor.get(), &change);
-    QCOMPARE(m->label("HotkeyEditor_selectedActionLabel"), s("<b>Sphere</b> (Viewport)"));
-    QCOMPARE(m->search()->text(), s("s"));
-    QCOMPARE(m->assigned(), s("Ctrl+S, S"));
-    QVERIFY(m->field()->text().isEmpty());
-    m->clickRow("S"); // looks anew at what stands in the field
-    QVERIFY(!m->canAssign());
+    const auto pressSpace = [this](const char *name) {
+        rowButton(name)->setFocus();
+        QTest::keyClick(rowButton(name), Qt::Key_Space);
+        return focused();
+    };
+    QCOMPARE(pressSpace("Remove S"), s("Undo S"));
+    QCOMPARE(pressSpace("Remove Ctrl+S"), s("Undo Ctrl+S"));
+    QCOMPARE(pressSpace("Undo S"), s("Remove S"));
+
+    // Removing what was just assigned makes all rows anew in between.
+    m->assign(sphere, "Ctrl+S");
+    m->assign(sphere, "F7");
+    QCOMPARE(pressSpace("Remove F7"), s("Undo F7"));
+
+    rowButton("Remove S")->setFocus();
+    m->assign(box, "S"); // takes it away, without a row in its place
+    QCOMPARE(focused(), s("scrollAreaAssignedHotkeys"));
+    m->field()->setFocus();
+    m->unassign(sphere, "Ctrl+S");
+    QVERIFY(m->field()->hasFocus()); // only the focus of a row has to go elsewhere
+}
+
+void TestHotkeyEditor::leavesReturnToTheHost()
+{
+    m->close();
+    m->open(dialogOfTheHost());
+    m->select(sphere);
+    m->press(Qt::Key_F7);
+    rowButton("Remove S")->setFocus(); // the one that would be pressed later on
+    m->search()->setFocus();
+    QTest::keyClick(m->search(), Qt::Key_Return);
+    QCOMPARE(m->hotkeys(sphere), s("S, Ctrl+S"));
+    QVERIFY(m->dialog->isVisible());
+
+    auto *ok = addButton(m->dialog.get());
+    ok->show();
+    QSignalSpy clicked(ok, &QPushButton::clicked);
+    m->search()->clearFocus();
+    m->search()->setFocus();
+    ok->setDefault(true);
+    QTest::keyClick(m->search(), Qt::Key_Return);
+    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(m->hotkeys(sphere), s("S, Ctrl+S"));
 }
 
 QTEST_MAIN(TestHotkeyEditor)

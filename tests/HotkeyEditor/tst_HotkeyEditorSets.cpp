@@ -1,7 +1,10 @@
 #include "EditorHarness.h"
 #include "OneTextTranslator.h"
 
-#include <QDesktopServices>
+#include <UiCustomizations/HotkeySetWatcher.h>
+
+#include <QPushButton>
+#include <QScrollBar>
 #include <QtTest>
 
 using CUI::QvelShortcutsWidget;
@@ -19,9 +22,6 @@ class TestHotkeyEditorSets : public EditorTest
 {
     Q_OBJECT
 
-public Q_SLOTS:
-    void openUrl(const QUrl &url) { m_opened = url.toLocalFile(); }
-
 private Q_SLOTS:
     void switchesSets();
     void asksBeforeSwitching_data();
@@ -35,24 +35,25 @@ private Q_SLOTS:
     void neverOverwritesLockedSets();
     void keepsEditsWhenSavingFails();
     void resets();
-    void resetKeepsTranslatedName();
     void asksAboutVanishedFile_data();
     void asksAboutVanishedFile();
-    void listsVanishedSetOnce();
-    void opensFolderOfVanishedSet();
-    void followsTheDirectory();
-    void followsLateDirectory();
-    void refreshesWithoutChoosing();
-    void showsNamesAsTyped();
-    void opensOverUnsavedEdits();
     void mayGoWhileItAsks_data();
     void mayGoWhileItAsks();
+    void loadsFromFile();
+    void reportsBadFile();
+    void cancelledDialogsChangeNothing();
+    void leavesTheSetForBaseFile();
+    void savesBaseFile();
+    void importsLegacyFile();
+    void asksBeforeReplacingOnImport();
+    void reportsFailedImport_data();
+    void reportsFailedImport();
+    void staysInPlaceWhenTheFileChanges();
 
 private:
+    QString writeLegacy(const char *name, const char *keys = "") const;
     QString currentSet() const { return m->host.paths()->currentSet; }
     QString write(const char *name, const char *contents = "<VelHotkeyTransformations/>") const;
-
-    QString m_opened; // by the desktop
 };
 
 QString TestHotkeyEditorSets::write(const char *name, const char *contents) const
@@ -232,17 +233,6 @@ void TestHotkeyEditorSets::resets()
     QCOMPARE(m->chosenSet(), s("Mine"));
 }
 
-void TestHotkeyEditorSets::resetKeepsTranslatedName()
-{
-    OneTextTranslator translator("CUI", "Default", "Standard");
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    QTRY_VERIFY(m->listedSets().contains(s("Standard")));
-    m->chooseSet("Standard");
-    m->edit();
-    m->editor->discardChanges();
-    QCOMPARE(m->chosenSet(), s("Standard"));
-}
-
 void TestHotkeyEditorSets::asksAboutVanishedFile_data()
 {
     QTest::addColumn<int>("answer");
@@ -277,109 +267,8 @@ void TestHotkeyEditorSets::asksAboutVanishedFile()
 }
 
 // A set whose file is not there when the editor opens, but later.
-void TestHotkeyEditorSets::listsVanishedSetOnce()
-{
-    m->close();
-    QVERIFY(QFile::remove(m->userSet));
-    m->open();
-    QCOMPARE(m->chosenSet(), s("Mine"));
-    dialogs->expectFile("Save Hotkey Set As", m->userSet);
-    m->triggerOption("Save");
-    m->refreshList();
-    QCOMPARE(m->listedSets(), list("Default|Mine|Other|Zed"));
-    QCOMPARE(m->chosenSet(), s("Mine"));
-}
-
-void TestHotkeyEditorSets::opensFolderOfVanishedSet()
-{
-    QVERIFY(QFile::remove(m->userSet));
-    QDesktopServices::setUrlHandler(s("file"), this, "openUrl");
-    m->triggerOption("Open File Location");
-    QDesktopServices::unsetUrlHandler(s("file"));
-    QCOMPARE(m_opened, m->host.paths()->userPresets);
-}
-
-void TestHotkeyEditorSets::followsTheDirectory()
-{
-    m->edit();
-    write("user/Brand New.hsx");
-    QTRY_VERIFY(m->listedSets().contains(s("Brand New")));
-    QCOMPARE(m->chosenSet(), s("Mine"));
-    QVERIFY(m->editor->isModified());
-    QVERIFY(QFile::remove(m->userSet)); // the loaded set stays in the list
-    QVERIFY(QFile::remove(m->otherSet));
-    QTRY_COMPARE(m->listedSets(), list("Default|Brand New|Mine"));
-    QCOMPARE(m->chosenSet(), s("Mine"));
-}
-
-void TestHotkeyEditorSets::followsLateDirectory()
-{
-    m->close();
-    m->host.paths()->userPresets = QDir::cleanPath(m->host.path(s("later/sets")));
-    m->open();
-    QDir later(m->host.path(s("later")));
-    for (int i = 0; i < 2; ++i) { // it may also go and come again
-        QVERIFY(later.mkpath(s(".")));
-        QTest::qWait(50);
-        QVERIFY(later.mkdir(s("sets")));
-        write("later/sets/Late.hsx");
-        QTRY_VERIFY(m->listedSets().contains(s("Late")));
-        QVERIFY(later.removeRecursively());
-        QTRY_VERIFY(!m->listedSets().contains(s("Late")));
-    }
-    QCOMPARE(m->chosenSet(), s("Mine"));
-}
-
 // No set is loaded, and none may look so, or be loaded, because the list has changed.
-void TestHotkeyEditorSets::refreshesWithoutChoosing()
-{
-    m->close();
-    m->host.paths()->currentSet.clear();
-    m->open();
-    m->edit();
-    m->editor->setPresetComboBoxItemIcon(QIcon());
-    QCOMPARE(m->sets()->currentIndex(), -1);
-    const QString first = write("shipped/aaa.hsx", "<VelHotkeyTransformations Description='Aaa'/>");
-    m->refreshList();
-    QCOMPARE(m->listedSets().first(), s("Aaa"));
-    QCOMPARE(m->sets()->currentIndex(), -1);
-    QCOMPARE(currentSet(), QString());
-    dialogs->expectBox("Unsaved Changes", QMessageBox::Discard);
-    m->chooseSet("Aaa"); // the first of the list can be chosen
-    QCOMPARE(currentSet(), first);
-}
-
-void TestHotkeyEditorSets::showsNamesAsTyped()
-{
-    const QString name = s("<img src=x> & 'quotes' %1");
-    const QString path = write("user/markup.hsx",
-                               "<VelHotkeyTransformations Description='&lt;img src=x&gt; &amp; "
-                               "&apos;quotes&apos; %1'/>");
-    m->editor->setPresetComboBoxItemIcon(QIcon());
-    m->chooseSet(name);
-    QCOMPARE(m->chosenSet(), name);
-    QCOMPARE(currentSet(), path);
-    m->edit();
-    QVERIFY(QFile::remove(path));
-    dialogs->expectBox("File not Found", QMessageBox::Cancel, [name](QMessageBox *messageBox) {
-        QCOMPARE(messageBox->textFormat(), Qt::PlainText);
-        QVERIFY(messageBox->text().contains(s("'%1'").arg(name)));
-    });
-    QVERIFY(!m->editor->maybeSaveChanges());
-}
-
 // The dialog that holds the editor may be opened again while edits are pending.
-void TestHotkeyEditorSets::opensOverUnsavedEdits()
-{
-    m->edit();
-    QvelShortcutsWidget second(m->model.get(), &m->manager);
-    QVERIFY(second.isModified());
-    QCOMPARE(second.findChild<QComboBox *>(m->sets()->objectName())->currentText(), s("Mine"));
-    dialogs->expectBox("Unsaved Changes", QMessageBox::Save);
-    QVERIFY(second.maybeSaveChanges());
-    QVERIFY(!second.isModified() && !m->editor->isModified());
-}
-
 void TestHotkeyEditorSets::mayGoWhileItAsks_data()
 {
     using H = EditorHarness;
@@ -399,8 +288,6 @@ void TestHotkeyEditorSets::mayGoWhileItAsks_data()
     row("save", nothing, mayBeSaved);
     row("save as", vanish, [](H &h, D &) { h.click("HotkeyEditor_toolButtonSavePreset"); });
     row("reset", nothing, reset);
-    row("vanished set", vanish, reset);
-    row("not loaded", vanish, [](H &h, D &) { h.editor->discardChanges(); });
     const Steps missing = [](H &h, D &before) {
         QFile::remove(h.otherSet);
         before.expectBox("Unsaved Changes", QMessageBox::Discard);
@@ -413,16 +300,6 @@ void TestHotkeyEditorSets::mayGoWhileItAsks_data()
     row("save elsewhere", saveElsewhere, mayBeSaved);
     const Steps load = [](H &h, D &before) { before.expectFile("Load Hotkey Set", h.otherSet); };
     row("load", load, [](H &h, D &) { h.editor->loadShortcutsTransformation(); });
-    const Steps validate = [](H &h, D &before) {
-        before.expectFile("Validate Shortcut File", h.userSet);
-    };
-    row("validate", validate, [](H &h, D &) { h.editor->validateShortcutFile(); });
-    row("seventh hotkey", nothing, [](H &h, D &) {
-        h.select(boxes);
-        for (const int key : {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5, Qt::Key_6})
-            h.enter(key);
-        h.enter(Qt::Key_7);
-    });
     for (const char *keys : {"<Other/>", "<VLSK_KBD/>"}) {
         const Steps import = [keys](H &h, D &before) {
             h.host.write(s("legacy/LegacyDefaultUI-2019.kbdx"), "<VLSK_KBD/>");
@@ -443,6 +320,212 @@ void TestHotkeyEditorSets::mayGoWhileItAsks()
     dialogs->expect([this](QWidget *) { m->editor.reset(); });
     command(*m, *dialogs);
     QVERIFY(m->editor == nullptr);
+}
+
+// A legacy keyboard file, and the one of the defaults that it is compared with.
+QString TestHotkeyEditorSets::writeLegacy(const char *name, const char *keys) const
+{
+    m->host.write(s("legacy/LegacyDefaultUI-2019.kbdx"), "<VLSK_KBD/>");
+    return m->host.write(s(name), QByteArray("<VLSK_KBD>") + keys + "</VLSK_KBD>");
+}
+
+void TestHotkeyEditorSets::loadsFromFile()
+{
+    const QString path = QDir::cleanPath(
+            m->host.write(s("elsewhere.hsx"), "<VelHotkeyTransformations Description='Far Away'>"
+                                              "<Assign_Hotkey Shortcut='Q' Id='2-bevel'/>"
+                                              "</VelHotkeyTransformations>"));
+    dialogs->expectFile("Load Hotkey Set", path);
+    m->triggerOption("Load From File...");
+    QCOMPARE(m->chosenSet(), s("Far Away"));
+    QCOMPARE(m->hotkeys(bevel), s("B, Q"));
+    QCOMPARE(m->hotkeys(box), s("B"));
+    QCOMPARE(m->host.paths()->currentSet, path);
+    QVERIFY(!m->editor->isModified());
+    m->chooseSet("Mine");
+    m->chooseSet("Far Away"); // it stays in the list
+    QCOMPARE(m->hotkeys(bevel), s("B, Q"));
+}
+
+void TestHotkeyEditorSets::reportsBadFile()
+{
+    m->host.paths()->logFile = m->host.path(s("log.txt"));
+    dialogs->expectFile("Load Hotkey Set", m->host.write(s("<b>bad.hsx"), "<VelHotkeys/>"));
+    dialogs->expectBox("Hotkey Set Not Loaded", QMessageBox::Ok, [](QMessageBox *messageBox) {
+        const QString reason = messageBox->informativeText();
+        QVERIFY2(reason.contains(s("Line: 1")) && reason.contains(s("<b>")), qPrintable(reason));
+        int plainTexts = 0;
+        for (const QLabel *label : messageBox->findChildren<QLabel *>()) {
+            if (label->text() == reason || label->text() == messageBox->text())
+                plainTexts += int(label->textFormat() == Qt::PlainText);
+        }
+        QCOMPARE(plainTexts, 2);
+        QStringList buttons;
+        for (const QAbstractButton *button : messageBox->buttons())
+            buttons << button->text();
+        QVERIFY(buttons.contains(s("Open Log File")));
+    });
+    m->editor->loadShortcutsTransformation();
+    QCOMPARE(m->hotkeys(box), s("B, F5"));
+    QCOMPARE(m->chosenSet(), s("Mine"));
+}
+
+void TestHotkeyEditorSets::cancelledDialogsChangeNothing()
+{
+    m->edit();
+    const QStringList before = m->host.paths()->recorded;
+    for (const QString &path : {QString(), m->otherSet}) {
+        for (const char *title : {"Load Hotkey Set", "Convert Legacy Hotkeys", "Load Shortcuts"}) {
+            dialogs->expectFile(title, path);
+            if (!path.isEmpty()) // nothing is asked about the edits before that is of use
+                dialogs->expectBox("Unsaved Changes", QMessageBox::Cancel);
+        }
+        m->editor->loadShortcutsTransformation();
+        m->editor->selectFileForConversion();
+        m->editor->loadShortcuts();
+    }
+    for (const char *title : {"Save Hotkey Set As", "Validate Shortcut File", "Save Shortcuts"})
+        dialogs->expectFile(title, QString());
+    m->editor->saveShortcutsTransformation();
+    m->editor->validateShortcutFile();
+    m->editor->saveShortcuts();
+    QVERIFY(m->editor->isModified());
+    QCOMPARE(m->hotkeys(bevel), s("B, F9"));
+    QCOMPARE(m->host.paths()->recorded, before);
+    QCOMPARE(m->chosenSet(), s("Mine"));
+}
+
+void TestHotkeyEditorSets::leavesTheSetForBaseFile()
+{
+    const QByteArray before = TestHost::read(m->userSet);
+    const QString base = m->host.write(
+            s("other.hsxb"), "<VelHotkeys><Hotkey Shortcut='K' Id='1-box'/></VelHotkeys>");
+    dialogs->expectFile("Load Shortcuts", base);
+    m->editor->loadShortcuts();
+    QCOMPARE(m->hotkeys(box), s("K"));
+    QCOMPARE(m->chosenSet(), QString());
+    QCOMPARE(m->host.paths()->currentSet, QString());
+    m->edit();
+    dialogs->expectFile("Save Hotkey Set As", QString()); // not saved over the set without asking
+    m->triggerOption("Save");
+    QCOMPARE(TestHost::read(m->userSet), before);
+}
+
+void TestHotkeyEditorSets::savesBaseFile()
+{
+    const QString base = m->host.write(s("saved.hsxb"), "<VelHotkeys/>");
+    dialogs->expectReplacement("Save Shortcuts", base);
+    m->editor->saveShortcuts();
+    const QByteArray saved = TestHost::read(base);
+    QVERIFY(saved.contains("1-sphere"));
+
+    m->assign(sphere, QKeySequence(0x1A).toString()); // which no file can hold
+    m->editor->applyCurrentTransformation();
+    dialogs->expectReplacement("Save Shortcuts", base)
+            .expectBox("Save Changes Error", QMessageBox::Ok)
+            .expectFile("Save Shortcuts", m->host.path(s("new.hsxb")))
+            .expectBox("Save Changes Error", QMessageBox::Ok);
+    m->editor->saveShortcuts();
+    m->editor->saveShortcuts();
+    QCOMPARE(TestHost::read(base), saved);
+}
+
+void TestHotkeyEditorSets::importsLegacyFile()
+{
+    const QString in = writeLegacy("old keys.kbdx", "<shortcut fVirt='11' accleleratorKey='81' "
+                                                    "actionID='bevel' actionTableID='2'/>");
+    QSignalSpy converted(m->editor.get(), &QvelShortcutsWidget::legacyHotkeySetConverted);
+    dialogs->expectFile("Convert Legacy Hotkeys", in);
+    dialogs->expectBox("Hotkey File Converted", QMessageBox::Ok, [this](QMessageBox *messageBox) {
+        QCOMPARE(messageBox->text(),
+                 s("old keys.kbdx was successfully converted and loaded.\n\nThe new file, old "
+                   "keys.hsx, is saved in your User Settings folder."));
+        QCOMPARE(m->hotkeys(bevel), s("B"));
+    });
+    m->triggerOption("Import Legacy Hotkeys...");
+    QCOMPARE(converted, (QList<QVariantList>{{true}}));
+    QCOMPARE(m->hotkeys(bevel), s("B, Ctrl+Q"));
+    QCOMPARE(m->host.paths()->currentSet, m->host.paths()->userPresets + s("/old keys.hsx"));
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(m->chosenSet(), s("old keys"));
+        QCOMPARE(m->listedSets().count(s("old keys")), 1);
+        m->refreshList();
+    }
+}
+
+void TestHotkeyEditorSets::asksBeforeReplacingOnImport()
+{
+    const QString other = writeLegacy("Other.kbdx");
+    const QString locked =
+            m->host.write(s("user/Locked.hsx"), "<VelHotkeyTransformations Locked='true'/>");
+    const QByteArray before = TestHost::read(m->otherSet);
+    const QByteArray lockedBefore = TestHost::read(locked);
+
+    dialogs->expectFile("Convert Legacy Hotkeys", other).expect([](QWidget *dialog) {
+        auto *question = qobject_cast<QMessageBox *>(dialog);
+        QCOMPARE(question->windowTitle(), s("Hotkey File Already Exists"));
+        QCOMPARE(question->standardButton(question->defaultButton()), QMessageBox::No);
+        QTest::keyClick(question, Qt::Key_Return);
+    });
+    m->editor->selectFileForConversion();
+    QCOMPARE(TestHost::read(m->otherSet), before);
+
+    dialogs->expectFile("Convert Legacy Hotkeys", writeLegacy("Locked.kbdx"))
+            .expectBox("Save Changes Error", QMessageBox::Ok);
+    m->editor->selectFileForConversion();
+    QCOMPARE(TestHost::read(locked), lockedBefore);
+
+    dialogs->expectFile("Convert Legacy Hotkeys", other)
+            .expectBox("Hotkey File Already Exists", QMessageBox::Yes)
+            .expectBox("Hotkey File Converted", QMessageBox::Ok);
+    m->editor->selectFileForConversion();
+    QVERIFY(TestHost::read(m->otherSet) != before);
+}
+
+// Something happens to the converted file before it is loaded.
+void TestHotkeyEditorSets::reportsFailedImport_data()
+{
+    QTest::addColumn<bool>("isKeyboardFile");
+    QTest::newRow("not a keyboard file") << false;
+    QTest::newRow("no directory for it") << true;
+}
+
+void TestHotkeyEditorSets::reportsFailedImport()
+{
+    QFETCH(bool, isKeyboardFile);
+    const QString in = writeLegacy("bad.kbdx");
+    if (isKeyboardFile)
+        m->host.paths()->userPresets.clear();
+    else
+        m->host.write(s("bad.kbdx"), "<Other/>");
+    QSignalSpy converted(m->editor.get(), &QvelShortcutsWidget::legacyHotkeySetConverted);
+    dialogs->expectFile("Convert Legacy Hotkeys", in)
+            .expectBox("Hotkeys Conversion Failed", QMessageBox::Ok);
+    m->editor->selectFileForConversion();
+    QCOMPARE(dialogs->texts(), list("Something went wrong while converting bad.kbdx.\n\nSee the "
+                                    "log for more details."));
+    QCOMPARE(converted, (QList<QVariantList>{{false}}));
+    QCOMPARE(m->chosenSet(), s("Mine"));
+}
+
+void TestHotkeyEditorSets::staysInPlaceWhenTheFileChanges()
+{
+    for (int i = 0; i < 200; ++i)
+        m->host.registry()->addAction(1, s("a%1").arg(i, 3), s("a%1").arg(i, 3), 2, {}, false);
+    m->model->loadActionsToModel();
+    CUI::HotkeySetWatcher watcher(&m->manager);
+    m->select(bevel);
+    m->press(Qt::Key_F11);
+    QScrollBar *bar = m->tree()->verticalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 60);
+    bar->setValue(60);
+    m->host.write(s("user/Mine.hsx"),
+                  "<VelHotkeyTransformations><Assign_Hotkey Shortcut='F8' Id='2-bevel'/>"
+                  "</VelHotkeyTransformations>");
+    QTRY_COMPARE_WITH_TIMEOUT(m->assigned(), s("F8, B"), 1000);
+    QCOMPARE(bar->value(), 60);
+    QCOMPARE(m->tree()->currentIndex().data().toString(), s("Bevel"));
+    QCOMPARE(m->field()->text(), s("F11"));
 }
 
 QTEST_MAIN(TestHotkeyEditorSets)
