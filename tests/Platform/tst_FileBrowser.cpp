@@ -76,8 +76,6 @@ private Q_SLOTS:
     void asksTheFileManager();
     void opensTheFolderInstead_data();
     void opensTheFolderInstead();
-    void ignoresMissingFiles();
-    void opensTheFolderWhenTheBusIsGone(); // the last one
 
 private:
     void startBus();
@@ -184,23 +182,6 @@ void TestFileBrowser::opensTheFolderInstead()
     QTRY_COMPARE_WITH_TIMEOUT(m_opened, QStringList(m_folder), 20000);
     QCOMPARE(m_fileManager.shown.size(), behaviour == IsMissing ? 0 : 1);
     QVERIFY(behaviour == IsMissing || desktop.unregisterService(serviceName));
-}
-
-void TestFileBrowser::ignoresMissingFiles()
-{
-    showFileInFolder(m_host.path(s("missing.hsx")));
-    showFileInFolder(QString());
-    QTest::qWait(300); // with the bus at hand the folder would have been opened by then
-    QCOMPARE(m_opened, QStringList());
-}
-
-void TestFileBrowser::opensTheFolderWhenTheBusIsGone()
-{
-    m_busDaemon.kill();
-    QVERIFY(m_busDaemon.waitForFinished());
-    QTRY_VERIFY(!QDBusConnection::sessionBus().isConnected());
-    showFileInFolder(m_set);
-    QTRY_COMPARE(m_opened, QStringList(m_folder));
 }
 
 QTEST_MAIN(TestFileBrowser)
