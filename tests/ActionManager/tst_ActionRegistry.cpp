@@ -80,6 +80,8 @@ void TestActionRegistry::replacesDuplicates()
     QVERIFY(m_registry.getActionContext(4) == nullptr);
     QCOMPARE(m_registry.actions().size(), std::size_t(1)); // looking up creates nothing
     QCOMPARE(m_registry.actionContexts().size(), std::size_t(1));
+    QVERIFY(m_registry.removeAction(undo));
+    QVERIFY(!m_registry.removeAction(undo));
 }
 
 void TestActionRegistry::renames()

@@ -207,6 +207,8 @@ void TestPresetComboBox::marksUnsavedChanges()
     m_box->setCurPresetModified(false);
     QCOMPARE(m_box->grab().toImage(), plain);
     QVERIFY(m_box->accessibleDescription().isEmpty());
+    m_box->setItemIcon(0, greenIcon());
+    QVERIFY(m_box->grab().toImage() != plain);
 }
 
 void TestPresetComboBox::showsToolTipsAsPlainText()

@@ -66,7 +66,6 @@ class TestActionItemModel : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void reloadsAsOneReset();
     void worksWithoutStoreOrRegistry();
     void followsTheStore();
     void waitsForAConfiguration();
@@ -121,22 +120,6 @@ void TestActionItemModel::cleanup()
     m_model.reset();
     m_store.reset();
     m_host.reset();
-}
-
-void TestActionItemModel::reloadsAsOneReset()
-{
-    TestRegistry *registry = m_host->registry();
-    bool wasBlocked = false;
-    connect(m_model.get(), &QAbstractItemModel::modelReset, registry,
-            [&] { wasBlocked = registry->signalsBlocked(); });
-    SignalLog log(*m_model);
-    for (const bool isBlocked : {false, true}) {
-        registry->blockSignals(isBlocked);
-        m_model->loadActionsToModel();
-        QCOMPARE(log.take(), list("about to reset|reset"));
-        QVERIFY(wasBlocked);
-        QCOMPARE(registry->signalsBlocked(), isBlocked);
-    }
 }
 
 void TestActionItemModel::worksWithoutStoreOrRegistry()

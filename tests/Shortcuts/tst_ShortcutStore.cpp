@@ -27,8 +27,6 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void announcesEdits();
-    void worksWithoutRegistry();
-    void refusesSeventhHotkey();
     void ignoresEmptyText();
     void recordsWhatChangesNothing();
     void answersWhatTheUserModified();
@@ -96,28 +94,6 @@ void TestShortcutStore::announcesEdits()
 
     m_store->unassignShortcut(b, s("%4"), s("%1 Render"));
     QCOMPARE(m_recorder->takeSignals().last(), s("added Remove '%4' from %1 Render."));
-}
-
-void TestShortcutStore::worksWithoutRegistry()
-{
-    std::unique_ptr<CUI::ICuiActionManager> none;
-    CUI::ICuiActionManager::set(none);
-    for (const ActionIdentifier &id : {a, b}) {
-        assign(id, "X");
-        QCOMPARE(m_store->getShortcutsFromActionId(id), s("X"));
-    }
-    QCOMPARE(m_store->getShortcutsFromActionId(a), s("X"));
-    QVERIFY(owner("X", 5).isEmpty());
-}
-
-void TestShortcutStore::refusesSeventhHotkey()
-{
-    for (const char *key : {"A", "B", "C", "D", "E", "F"})
-        assign(a, key);
-    m_recorder->take();
-    assign(a, "G");
-    QCOMPARE(m_recorder->take(), QStringList());
-    QCOMPARE(stepCount(), std::size_t(6));
 }
 
 void TestShortcutStore::ignoresEmptyText()

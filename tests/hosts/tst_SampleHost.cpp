@@ -1,5 +1,4 @@
 #include "FullDisk.h"
-#include "HostActionRegistry.h"
 #include "HostCatalogue.h"
 #include "SampleHost.h"
 #include "Text.h"
@@ -68,9 +67,7 @@ class SampleHostTest : public QObject
 private Q_SLOTS:
     void init();
     void cleanup() { CUI::QvelMessageLog::getInstance().disconnect(this); }
-    void installsWhatTheShippedDirectoryHolds();
     void theCurrentSetSurvivesARestart();
-    void aSetThatIsGoneGivesWayUntilItIsBack();
     void warnsOfARecordThatCannotBeRead();
     void aFullDiskKeepsTheOldRecord();
     void readsEverySpellingOfAnAccelerator();
@@ -117,30 +114,6 @@ std::unique_ptr<SampleHost> SampleHostTest::start() const
     return host;
 }
 
-void SampleHostTest::installsWhatTheShippedDirectoryHolds()
-{
-    const QDir directory(SampleHost::shippedDirectory());
-    {
-        SampleHost host(directory.path() + QLatin1Char('/'), path("user"));
-        QVERIFY2(host.load(), qPrintable(host.errorText()));
-        auto *registry = CUI::ICuiActionManager::get();
-        const auto *paths = CUI::IPathManager::get();
-        QCOMPARE(registry->actions().size(), host.catalogue().actions.size());
-        QCOMPARE(registry->actionContexts().size(), std::size_t(16));
-        QCOMPARE(paths->getBaseHotkeyFiles(),
-                 QStringList({directory.filePath(s("base/10-velstudio.hsxb")),
-                              directory.filePath(s("base/20-layout-extras.hsx"))}));
-        QCOMPARE(currentSet(), directory.filePath(s("presets/Velstudio Default Keyset.hsx")));
-
-        QSignalSpy triggered(host.registry(), &Host::HostActionRegistry::triggered);
-        QVERIFY(registry->triggerAction({1, s("undo")}));
-        QVERIFY(!registry->triggerAction({9, s("undo")}));
-        QCOMPARE(triggered.count(), 1);
-    }
-    QVERIFY(CUI::ICuiActionManager::get() == nullptr);
-    QVERIFY(CUI::IPathManager::get() == nullptr);
-}
-
 void SampleHostTest::theCurrentSetSurvivesARestart()
 {
     auto host = start();
@@ -152,19 +125,6 @@ void SampleHostTest::theCurrentSetSurvivesARestart()
         QCOMPARE(currentSet(), file);
     }
     QVERIFY(m_logged.isEmpty());
-}
-
-void SampleHostTest::aSetThatIsGoneGivesWayUntilItIsBack()
-{
-    auto host = start();
-    setCurrentSet(m_mine);
-    QVERIFY(QFile::rename(m_mine, path("away")));
-    host = start();
-    QCOMPARE(currentSet(), m_defaultSet);
-    CUI::QvelShortcutManager().loadCurrentShortcutConfiguration();
-    QVERIFY(QFile::rename(path("away"), m_mine));
-    host = start();
-    QCOMPARE(currentSet(), m_mine);
 }
 
 void SampleHostTest::warnsOfARecordThatCannotBeRead()
