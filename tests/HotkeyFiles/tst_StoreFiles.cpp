@@ -386,6 +386,10 @@ void TestStoreFiles::survivesFailingFiles()
     QCOMPARE(errors.size(), 3);
     QVERIFY(errors.first().startsWith(s("Error: Validation of '%1'").arg(half)));
     QVERIFY(!m_store->loadShortcuts(half));
+    m_recorder->take();
+    QVERIFY(!m_store->loadShortcuts(QString()) && !m_store->loadShortcutTransforms(QString())
+            && !m_store->saveShortcutTransforms(QString()));
+    QCOMPARE(m_recorder->take(), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestStoreFiles)
