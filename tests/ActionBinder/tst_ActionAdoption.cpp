@@ -30,7 +30,6 @@ private Q_SLOTS:
 
     void registersWhatAWindowHas();
     void theStoreHasTheDefaultHotkeys();
-    void loadsAndKeysWork();
     void windowsOfOneKindShareTheirHotkeys();
     void partsAndLatecomers();
     void usesTheRegistryOfTheApplication();
@@ -166,47 +165,6 @@ void TestActionAdoption::theStoreHasTheDefaultHotkeys()
     QVERIFY(!store.isUserModified());
     QCOMPARE(store.getBaseShortcutsFromActionId(binder.identifierOf(taker)), s("F3"));
     disconnect(&CUI::QvelMessageLog::getInstance(), nullptr, this, nullptr);
-}
-
-void TestActionAdoption::loadsAndKeysWork()
-{
-    QTemporaryDir folder;
-    const QString set = folder.filePath(s("mine.hsx"));
-    QMainWindow window;
-    QStringList triggered;
-    QAction *undo = addTo(window.menuBar()->addMenu(s("&Edit")), "&Undo", "Ctrl+Z");
-    connect(undo, &QAction::triggered, this, [&triggered] { triggered << s("undo"); });
-    QToolBar *bar = window.addToolBar(s("Edit"));
-    QAction *redo = bar->addAction(s("Redo"));
-    connect(redo, &QAction::triggered, this, [&triggered] { triggered << s("redo"); });
-    QvelShortcutManager store;
-    QvelActionBinder binder(&store);
-    binder.adopt(&window);
-    store.loadShortcutConfiguration(set); // none there yet
-
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    const auto pressed = [&] {
-        QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
-        return std::exchange(triggered, {}).join(QLatin1Char(' '));
-    };
-    QCOMPARE(pressed(), s("undo"));
-    store.assignShortcut(binder.identifierOf(redo), s("Ctrl+Z"), QString());
-    QCOMPARE(pressed(), s("redo"));
-    QCOMPARE(bar->widgetForAction(redo)->toolTip(), s("Redo (Ctrl+Z)"));
-    QVERIFY(store.saveShortcutTransforms(set));
-    store.loadShortcutConfiguration(QString());
-    QCOMPARE(pressed(), s("undo"));
-    store.loadShortcutConfiguration(set);
-    QCOMPARE(pressed(), s("redo"));
-
-    ICuiActionManager *registry = ICuiActionManager::get();
-    QVERIFY(registry->triggerAction(binder.identifierOf(undo)));
-    undo->setEnabled(false);
-    QVERIFY(!registry->triggerAction(binder.identifierOf(undo)));
-    QVERIFY(!registry->triggerAction({1, s("nothing")}));
-    QCOMPARE(triggered, QStringList(s("undo")));
 }
 
 void TestActionAdoption::windowsOfOneKindShareTheirHotkeys()

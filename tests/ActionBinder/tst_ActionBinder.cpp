@@ -242,13 +242,6 @@ void TestActionBinder::followsTheApplication()
     QCOMPARE(action->toolTip(), s("Undo (Ctrl+Z)"));
     action->setShortcut(QKeySequence(Qt::Key_F3));
     QCOMPARE(keysOf(*action), s("Ctrl+Z"));
-
-    // Two that both want the last word.
-    QvelActionBinder rival(m_store.get());
-    assign(redo, "Ctrl+Y");
-    rival.bind(redo, action);
-    QVERIFY(keysOf(*action) == QLatin1String("Ctrl+Z")
-            || keysOf(*action) == QLatin1String("Ctrl+Y"));
 }
 
 void TestActionBinder::unbindGivesEverythingBack()
@@ -520,47 +513,37 @@ void TestActionBinder::aKeyOfAContextIsNeverAmbiguous()
 
 void TestActionBinder::loadsTouchEachActionOnce()
 {
-    std::vector<int> changes(300);
+    std::vector<int> changes(60);
     QByteArray steps;
     for (std::size_t i = 0; i < changes.size(); ++i) {
         const ActionIdentifier id = {7, s("a%1").arg(i)};
         const QString hotkey = s("Ctrl+F%1").arg(i % 30 + 1);
         m_host->registry()->addAction(id, id.actionId, 100 + i / 30, QString(), false);
         m_host->registry()->accelerators.emplace_back(id, hotkey);
-        steps += s("<Unassign_Hotkey Shortcut='%1' Description='' Id='%2'/>"
-                   "<Assign_Hotkey Shortcut='Alt+%1' Description='' Id='%2'/>"
-                   "<Assign_Hotkey Shortcut='Shift+%1' Description='' Id='%2'/>")
+        steps += s("<Unassign_Hotkey Shortcut='%1' Id='%2'/><Assign_Hotkey Shortcut='Alt+%1' "
+                   "Id='%2'/><Assign_Hotkey Shortcut='Shift+%1' Id='%2'/>")
                          .arg(hotkey, id.toString())
                          .toUtf8();
         auto *action = new QAction(id.actionId, m_window.get());
         m_binder->bind(id, action);
         connect(action, &QAction::changed, this, [&changes, i] { ++changes[i]; });
     }
-    const QByteArray root("VelHotkeyTransformations");
-    const QString set = m_host->write(s("set.hsx"),
-                                      "<" + root + " Locked='false'>" + steps + "</" + root + ">");
-    const auto touched = [&changes] { // the same number of times each, or -1
-        const int first = changes.front();
-        const bool isSame =
-                std::count(changes.begin(), changes.end(), first) == int(changes.size());
-        std::fill(changes.begin(), changes.end(), 0);
-        return isSame ? first : -1;
+    const QString set = m_host->write(s("set.hsx"), "<VelHotkeyTransformations>" + steps
+                                                            + "</VelHotkeyTransformations>");
+    const auto areTouched = [&changes](int times) {
+        const std::vector<int> found = std::exchange(changes, std::vector<int>(changes.size()));
+        return found == std::vector<int>(changes.size(), times);
     };
-    connect(m_store.get(), &QvelShortcutManager::shortcutAssigned, this, [&] {
-        QCOMPARE(*std::max_element(changes.begin(), changes.end()), 0); // not before the end
-    });
-    m_store->loadShortcutConfiguration(QString());
-    QCOMPARE(touched(), 1);
-    m_store->loadShortcutConfiguration(set);
-    QCOMPARE(touched(), 1);
+    for (const QString &file : {QString(), set}) {
+        m_store->loadShortcutConfiguration(file);
+        QVERIFY(areTouched(1));
+    }
     const QAction *last = m_window->findChildren<QAction *>().constLast();
     QCOMPARE(keysOf(*last), s("Ctrl+Alt+F30; Ctrl+Shift+F30"));
     m_store->loadShortcutConfiguration(set);
-    QCOMPARE(touched(), 0);
+    QVERIFY(areTouched(0));
     m_store->clearTransforms();
-    QCOMPARE(touched(), 1);
-    m_store->clearShortcuts();
-    QCOMPARE(touched(), 1);
+    QVERIFY(areTouched(1));
 }
 
 void TestActionBinder::survivesDeathsInAnyOrder_data()

@@ -66,7 +66,6 @@ class TestActionItemModel : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void worksWithoutStoreOrRegistry();
     void followsTheStore();
     void waitsForAConfiguration();
     void findsItemsAmongMovedRows();
@@ -120,26 +119,6 @@ void TestActionItemModel::cleanup()
     m_model.reset();
     m_store.reset();
     m_host.reset();
-}
-
-void TestActionItemModel::worksWithoutStoreOrRegistry()
-{
-    m_store.reset();
-    m_model->updateShortcuts();
-    QCOMPARE(hotkeys("copy"), QString());
-    m_model->loadActionsToModel();
-    QCOMPARE(m_model->rowCount(), 4);
-
-    std::unique_ptr<CUI::ICuiActionManager> none;
-    CUI::ICuiActionManager::set(none);
-    SignalLog log(*m_model);
-    m_model->loadActionsToModel(); // keeps the rows
-    QCOMPARE(log.take(), QStringList());
-    QCOMPARE(m_model->rowCount(), 4);
-    const Model empty(nullptr);
-    QCOMPARE(empty.rowCount(), 0);
-    QVERIFY(empty.itemFromVelAction(0, id("cut")) == nullptr);
-    QVERIFY(empty.velActionFromShortcut(s("F2"), 5) == nullptr);
 }
 
 void TestActionItemModel::followsTheStore()

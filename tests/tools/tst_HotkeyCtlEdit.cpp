@@ -22,7 +22,6 @@ private Q_SLOTS:
     void init() { m_host = std::make_unique<ToolHost>(); }
     void edits_data();
     void edits();
-    void resets();
     void savesWhatItShows();
     void leavesFilesThatAreNotToBeReplaced_data();
     void leavesFilesThatAreNotToBeReplaced();
@@ -74,31 +73,6 @@ void HotkeyCtlEditTest::edits()
     QCOMPARE(m_host->run(edit + s(" --save @/saved.hsx")).done(),
              report + m_host->text("Saved as @/saved.hsx.\n"));
     QTEST(m_host->run("--set @/saved.hsx steps").done(), "steps");
-}
-
-void HotkeyCtlEditTest::resets()
-{
-    m_host->writeSet("mine.hsx", step("Unassign", "Ctrl+X", "1-cut")
-                                         + step("Assign", "Ctrl+X", "1-plain")
-                                         + step("Unassign", "F6", "1-full"));
-    const QByteArray before = ToolHost::read(m_host->path("mine.hsx"));
-    const auto steps = [this](const char *arguments) {
-        m_host->run(s("--log-level 0 --set @/mine.hsx reset %1 --save @/saved.hsx")
-                            .arg(s(arguments)))
-                .done();
-        return m_host->run("--set @/saved.hsx steps").done();
-    };
-    QCOMPARE(m_host->run("--set @/mine.hsx reset 1-cut --dry-run").done(),
-             s("Add 'Ctrl+X' to Cut.\nCtrl+X is taken from Plain (1-plain) for Cut (1-cut).\n"
-               "Dry run: nothing was saved.\n"));
-    QCOMPARE(steps("1-cut"), s("Remove 'F6' from Full (1-full).\n"));
-    QVERIFY(steps("1-cut --leave").contains(s("Ctrl+X' to Plain")));
-    QCOMPARE(steps("--context Editing"), QString());
-    QCOMPARE(steps("--all"), QString());
-    QCOMPARE(ToolHost::read(m_host->path("mine.hsx")), before);
-    QCOMPARE(m_host->run("reset --all 1-cut --save @/x.hsx").code, 2);
-    QCOMPARE(m_host->run("--set= reset --all").done().section(QLatin1Char('\n'), 0, 0),
-             s("Nothing to reset."));
 }
 
 void HotkeyCtlEditTest::savesWhatItShows()
