@@ -179,15 +179,9 @@ void HotkeyAuditTest::finds()
 
 namespace {
 
-struct Said {
-    bool isSaid = false;
-    ActionIdentifier action;
-    QString text;
-};
-
-/// What the audit says of a key with the focus in a part of the window.
-Said saidOf(const HotkeyAudit &audit, const QKeySequence &key,
-            const std::vector<unsigned long> &part)
+/// What the audit says of a key with the focus in a part of the window; null for nothing.
+const HotkeyFinding::Outcome *saidOf(const HotkeyAudit &audit, const QKeySequence &key,
+                                     const std::vector<unsigned long> &part)
 {
     std::vector<std::optional<unsigned long>> asked(part.begin(), part.end());
     asked.emplace_back();
@@ -198,11 +192,11 @@ Said saidOf(const HotkeyAudit &audit, const QKeySequence &key,
         for (const auto &context : asked) {
             for (const HotkeyFinding::Outcome &outcome : finding.outcomes) {
                 if (outcome.contextId == context)
-                    return {true, outcome.action, finding.text};
+                    return &outcome;
             }
         }
     }
-    return {};
+    return nullptr;
 }
 
 } // namespace
@@ -283,11 +277,12 @@ void HotkeyAuditTest::saysWhatTheBinderDoes()
             triggered = {};
             QTest::keyClick(place.first, Qt::Key(key[0] & ~int(Qt::KeyboardModifierMask)),
                             Qt::KeyboardModifiers(key[0] & int(Qt::KeyboardModifierMask)));
-            const Said said = saidOf(audit, key, place.second);
-            QVERIFY2(!said.isSaid || triggered == said.action,
-                     qPrintable(said.text + s(" But it ran ") + triggered.toString()));
-            QVERIFY2(said.isSaid || contextsOf(key, place.second) < 2, qPrintable(text));
-            compared += said.isSaid ? 1 : 0;
+            const HotkeyFinding::Outcome *said = saidOf(audit, key, place.second);
+            if (said != nullptr)
+                QVERIFY2(triggered == said->action, qPrintable(text + triggered.toString()));
+            else
+                QVERIFY2(contextsOf(key, place.second) < 2, qPrintable(text));
+            compared += said != nullptr ? 1 : 0;
         }
     }
     qInstallMessageHandler(oldHandler);

@@ -9,6 +9,7 @@
 #include "Viewport.h"
 
 #include <UiCustomizations/ICuiActionManager.h>
+#include <UiCustomizations/QvelActionBinder.h>
 
 #include <QApplication>
 #include <QComboBox>
@@ -195,40 +196,28 @@ void StudioTest::modeComesBeforeViewport()
     QCOMPARE(window().viewport().camera().pitch, 0.F);
 }
 
-/// All contexts of the viewport have one key, and the audit says for each mode what it does.
+/// Keys that a mode shares with other contexts of the viewport do there what the audit says.
 void StudioTest::auditKnowsTheModes()
 {
     QString error;
     const QString file = Host::SampleHost::shippedDirectory() + s("/host.json");
     const auto catalogue = Host::HostCatalogue::load(file, error);
-    QVERIFY2(catalogue, qPrintable(error));
-    const QString key = s("Ctrl+Alt+Shift+F9");
-    const QStringList holders = window().modes() + list("Viewport|Rendering");
-    std::map<unsigned long, QString> modes;
-    for (const Host::HostCatalogue::Context &context : catalogue->contexts) {
-        if (!holders.contains(context.name))
-            continue;
-        modes[context.id] = context.name;
-        const auto action = std::find_if(
-                catalogue->actions.begin(), catalogue->actions.end(), [&](const auto &candidate) {
-                    return candidate.contextId == context.id && !candidate.momentary;
-                });
-        m_session->store().assignShortcut(action->identifier, key, action->name);
-    }
+    const auto *binder = window().findChild<CUI::QvelActionBinder *>();
+    view("viewport");
+    int compared = 0;
     const CUI::HotkeyAudit audit(m_session->store(), catalogue->auditOptions());
-    const auto finding = std::find_if(audit.findings().begin(), audit.findings().end(),
-                                      [&key](const auto &found) { return found.hotkey == key; });
-    QVERIFY(finding != audit.findings().end());
-    QCOMPARE(finding->outcomes.size(), modes.size() - 1); // that of the viewport never runs
-    for (const CUI::HotkeyFinding::Outcome &outcome : finding->outcomes) {
-        window().setMode(modes.at(*outcome.contextId)); // none where it is the rendering
-        const bool isMode = window().modes().contains(modes.at(*outcome.contextId));
-        QWidget *focused = view(isMode ? "viewport" : "renderView");
-        QTest::keyClick(focused, Qt::Key_F9,
-                        Qt::ControlModifier | Qt::AltModifier | Qt::ShiftModifier);
-        const auto *action = CUI::ICuiActionManager::get()->getAction(outcome.action);
-        QVERIFY2(status().startsWith(action->name()), qPrintable(status() + finding->text));
+    for (const CUI::HotkeyFinding &finding : audit.findings()) {
+        for (const CUI::HotkeyFinding::Outcome &outcome : finding.outcomes) {
+            if (outcome.others.empty() || !outcome.contextId)
+                continue;
+            window().setMode(
+                    CUI::ICuiActionManager::get()->getActionContext(*outcome.contextId)->name());
+            QCOMPARE(binder->identifierOf(binder->actionOf(QKeySequence(finding.hotkey))),
+                     outcome.action);
+            ++compared;
+        }
     }
+    QVERIFY(compared > 9);
 }
 
 void StudioTest::textKeepsItsKeys()
