@@ -13,7 +13,7 @@ namespace {
 // name does not say how many actions there are, there are 10,000.
 const std::vector<Row> rows = {
         // name, rival, limit, rounds, what is measured
-        {"load/10k", "a bare check and reading of the two files", 1.3, 15,
+        {"load/10k", "a bare check and reading of the two files", 1.4, 15,
          loadingBesideBareReading},
         {"save/10k steps", "a bare check and reading of the file", 1.5, 15, saving},
         {"sets/first listing of 200", "a bare check of the 200 files", 1.3, 8, firstListingOfSets},

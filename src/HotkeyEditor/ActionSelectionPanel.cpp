@@ -353,6 +353,13 @@ void ActionSelectionPanel::hideReassignControls()
     m_form.hotkeyListSeparatorLine->hide();
 }
 
+void ActionSelectionPanel::hideOutdatedReassignControls()
+{
+    const QString held = m_manager->getShortcutsFromActionId(m_removedFromId);
+    if (JoinedHotkeys::split(held).contains(m_removedHotkey, Qt::CaseInsensitive))
+        hideReassignControls();
+}
+
 void ActionSelectionPanel::showReassignControls()
 {
     m_form.removedFromLabel->setText(m_removedFromName);

@@ -60,6 +60,8 @@ public:
 
     void hideAlreadyAssignedControls();
     void hideReassignControls();
+    /// Hides them if the removed hotkey is assigned to its action again.
+    void hideOutdatedReassignControls();
     /// Makes the box of the hotkeys as high as its wrapped texts need it at its width.
     void fitBoxHeight();
     /// The narrowest width at which a wrapped label still shows every unbreakable piece of its

@@ -287,7 +287,7 @@ void QvelShortcutsWidget::Private::connectStore()
         panel->updateSelectedActionShortcutList();
         if (transformationDialog != nullptr)
             transformationDialog->refill();
-        panel->hideReassignControls(); // the removed hotkey is assigned again
+        panel->hideOutdatedReassignControls();
         panel->updateAssignedShortcutFields();
     });
     connect(manager, &QvelShortcutManager::shortcutTransformsCollapsed, q, [this] {

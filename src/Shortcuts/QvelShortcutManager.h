@@ -100,7 +100,8 @@ public:
     void applyTransforms();
 
     /// Drops the steps and returns to the base hotkeys. Emits shortcutsUnModified() if there were
-    /// unsaved edits, then shortcutTransformsCleared(). Without steps it does nothing at all.
+    /// unsaved edits, then shortcutTransformsCleared(). Without steps it does nothing at all,
+    /// except after a failed save that has cancelled saved steps.
     void clearTransforms();
 
     /// Cancels opposite steps among those from index @p start on: an assignment and a later removal
