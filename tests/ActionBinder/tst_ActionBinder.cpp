@@ -514,6 +514,7 @@ void TestActionBinder::aKeyOfAContextIsNeverAmbiguous()
 void TestActionBinder::loadsTouchEachActionOnce()
 {
     std::vector<int> changes(60);
+    const QObject counting; // ends the connections: unbinding changes the actions, too
     QByteArray steps;
     for (std::size_t i = 0; i < changes.size(); ++i) {
         const ActionIdentifier id = {7, s("a%1").arg(i)};
@@ -526,7 +527,7 @@ void TestActionBinder::loadsTouchEachActionOnce()
                          .toUtf8();
         auto *action = new QAction(id.actionId, m_window.get());
         m_binder->bind(id, action);
-        connect(action, &QAction::changed, this, [&changes, i] { ++changes[i]; });
+        connect(action, &QAction::changed, &counting, [&changes, i] { ++changes[i]; });
     }
     const QString set = m_host->write(s("set.hsx"), "<VelHotkeyTransformations>" + steps
                                                             + "</VelHotkeyTransformations>");
