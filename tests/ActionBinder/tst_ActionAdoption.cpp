@@ -190,6 +190,8 @@ void TestActionAdoption::windowsOfOneKindShareTheirHotkeys()
     QCOMPARE(keysOf(second.save), s("Ctrl+S; F9"));
     first.reset();
     QVERIFY(ICuiActionManager::get()->triggerAction(save));
+    second.save->setEnabled(false);
+    QVERIFY(!ICuiActionManager::get()->triggerAction(save));
 
     // The same names in another context are other actions.
     Document other;

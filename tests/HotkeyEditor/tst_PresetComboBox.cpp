@@ -21,10 +21,10 @@ Preset presetAt(const char *path, const char *name = "", bool locked = false)
     return Preset(s(path), locked, s(name));
 }
 
-QIcon greenIcon()
+QIcon iconOf(Qt::GlobalColor color)
 {
     QPixmap pixmap(16, 16);
-    pixmap.fill(Qt::green);
+    pixmap.fill(color);
     return QIcon(pixmap);
 }
 
@@ -108,7 +108,7 @@ void TestPresetComboBox::marksWhatCannotBeWritten()
     const QString shipped = writeSet("shipped/1.hsx");
     writeSet("user/locked.hsx", "Locked='true'");
     writeSet("user/open.hsx");
-    m_box->setLockIcon(greenIcon());
+    m_box->setLockIcon(iconOf(Qt::green));
     update();
     QCOMPARE(texts(), list("1|locked|open"));
     QVERIFY(!m_box->itemIcon(0).isNull() && !m_box->itemIcon(1).isNull());
@@ -207,8 +207,10 @@ void TestPresetComboBox::marksUnsavedChanges()
     m_box->setCurPresetModified(false);
     QCOMPARE(m_box->grab().toImage(), plain);
     QVERIFY(m_box->accessibleDescription().isEmpty());
-    m_box->setItemIcon(0, greenIcon());
-    QVERIFY(m_box->grab().toImage() != plain);
+    m_box->setItemIcon(0, iconOf(Qt::green));
+    const QImage green = m_box->grab().toImage();
+    m_box->setItemIcon(0, iconOf(Qt::blue));
+    QVERIFY(m_box->grab().toImage() != green);
 }
 
 void TestPresetComboBox::showsToolTipsAsPlainText()
