@@ -1,3 +1,4 @@
+#include "OneTextTranslator.h"
 #include "TestHost.h"
 #include "Text.h"
 
@@ -60,6 +61,7 @@ private Q_SLOTS:
     void filtersByHotkeyState();
     void answersItsSubclasses();
     void announcesEachChange();
+    void followsTheLanguage();
 
 private:
     void show(const std::vector<Action> &actions);
@@ -235,6 +237,18 @@ void TestSortFilterProxy::announcesEachChange()
     m_proxy->setFilterKeyColumn(Model::HotkeyColumn);
     QCOMPARE(search("A"), list("layout")); // a search by hotkey announces the layout only
     QCOMPARE(search(""), both);
+}
+
+void TestSortFilterProxy::followsTheLanguage()
+{
+    show({{"delete", "Del"}, {"home", "Home"}});
+    m_proxy->sort(Model::HotkeyColumn);
+    OneTextTranslator translator("QShortcut", "Del", "Zap");
+    QCoreApplication::installTranslator(&translator);
+    QCOMPARE(names(), list("delete|home")); // until it is sorted again
+    m_proxy->invalidate();
+    QCOMPARE(names(), list("home|delete"));
+    QCoreApplication::removeTranslator(&translator);
 }
 
 QTEST_MAIN(TestSortFilterProxy)
