@@ -35,7 +35,7 @@ const std::vector<Row> rows = {
         {"sort/by hotkey", "the toolkit's proxy", 1.0, 12, [] { return sorting(1); }},
         {"sort/by group", "the toolkit's proxy", 1.0, 12, [] { return sorting(2); }},
         {"sort/by category", "the toolkit's proxy", 1.0, 12, [] { return sorting(3); }},
-        {"model/loading 10k actions", "inserting 40k items", 1.5, 20, loadingOfModel},
+        {"model/loading 10k actions", "inserting 40k items", 1.7, 20, loadingOfModel},
 
         {"editor/opening", "KDE's shortcut editor", 0.5, 6, openingOfEditor},
         {"editor/typing the sequence", "KDE's shortcut editor", 0.5, 8, sequenceInEditor},
