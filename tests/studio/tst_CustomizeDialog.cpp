@@ -76,6 +76,8 @@ class CustomizeDialogTest : public QObject
 private Q_SLOTS:
     void init();
     void cleanup() { m_session.reset(); }
+    // A clear button that fades out when its text is destroyed is deleted by the event loop.
+    void cleanupTestCase() { QTest::qWait(50); }
     void asksAboutAChangedFile_data();
     void asksAboutAChangedFile();
     void reportsWhatNoLongerApplies();
