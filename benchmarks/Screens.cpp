@@ -1,6 +1,7 @@
 #include "Screens.h"
 
 #include "QvelShortcutsWidget.h"
+#include "Stage.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -12,6 +13,8 @@ namespace {
 
 std::unique_ptr<QWidget> openEditor(QvelShortcutManager &store)
 {
+    // The editor would read the set of 10,000 steps that another row has loaded.
+    Stage::instance().host().paths()->currentSet.clear();
     auto model = std::make_unique<QvelActionItemModel>(&store);
     auto editor = std::make_unique<QvelShortcutsWidget>(model.get(), &store);
     model.release()->setParent(editor.get());
