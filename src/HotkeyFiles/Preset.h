@@ -38,7 +38,8 @@ public:
     /// True when the file says that the set must not be changed.
     bool isLocked() const { return m_locked; }
     /// True when the path has the directory of the shipped sets in it, as a plain part of the text:
-    /// a directory beside it whose name merely starts like it counts as well.
+    /// a directory beside it whose name merely starts like it counts as well. False when the host
+    /// has no such directory.
     bool isDefaultHotkeySet() const { return m_defaultHotkeySet; }
     /// True when a set may be saved there: it is not locked, and the file is not there or not
     /// read-only.

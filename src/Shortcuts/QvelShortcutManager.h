@@ -137,8 +137,9 @@ public:
     /// \name Files
     /// Paths are local file paths; with an empty one, saving, loading one file and peeking do
     /// nothing. Files are written as a whole or not at all: when writing fails, the old file stays.
-    /// A description loses the characters that XML cannot hold; a hotkey or an identifier with such
-    /// a character makes the save fail, with an error in the log.
+    /// Lines end with a line feed on every system; any line end is read. A description loses the
+    /// characters that XML cannot hold; a hotkey or an identifier with such a character makes the
+    /// save fail, with an error in the log.
     /// @{
 
     /// Writes the base hotkeys as a base hotkey file, ordered by action. Returns
